@@ -1,0 +1,4 @@
+#pragma once
+namespace app {
+int runQuorix(int argc, char** argv);
+}
