@@ -23,7 +23,7 @@ test: build
 bench: deps
 	@cmake -S . -B build-release -G Ninja -DCMAKE_BUILD_TYPE=Release >/dev/null
 	@cmake --build build-release -j $(JOBS) --target quorix_benchmarks
-	@cd build-release && ./bench/run_benchmarks.sh $(BENCH)
+	@build-release/bench/run_benchmarks.sh $(BENCH)
 
 install: build
 	cmake --install $(BUILD) $(if $(PREFIX),--prefix $(PREFIX),)
