@@ -1,13 +1,245 @@
 #include "app/commands.h"
 
+#include "app/teilprogramm.h"
+#include "app/winfkt.h"
+#include "kernel/headless.h"
+#include "lexicon/globals.h"
+#include "lexicon/toolcatalog.h"
+#include "platform/codepage.h"
+
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QListWidget>
+#include <cstring>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <iostream>
+#include <sstream>
 
 namespace app {
 
+namespace {
+
+// Exceptions that no local handler takes reach the one global handler; the program goes on.
+class QuorixApplication : public QApplication {
+public:
+    using QApplication::QApplication;
+    bool notify(QObject* receiver, QEvent* e) override
+    {
+        try {
+            return QApplication::notify(receiver, e);
+        } catch (const std::exception& ex) {
+            myexceptionhandler(ex.what());
+        } catch (...) {
+            myexceptionhandler("Unbekannter Fehler");
+        }
+        return false;
+    }
+};
+
+std::string utf8(const std::string& cp1252)
+{
+    return platform::cp1252ToUtf8(cp1252);
+}
+
+bool groesseLesen(const std::string& s, int& w, int& h)
+{
+    return std::sscanf(s.c_str(), "%dx%d", &w, &h) == 2 && w > 100 && h > 100 && w < 10000 && h < 10000;
+}
+
+void fensterZeigen(TForm1& f, int w, int h)
+{
+    f.resize(w, h);
+    f.show();
+    QApplication::processEvents();
+    f.anordnen();
+}
+
+int cmdPage(quorix::Args args, std::ostream& out, std::ostream& err)
+{
+    std::string png, size;
+    quorix::takeOption(args, "--png", png);
+    const bool mitGroesse = quorix::takeOption(args, "--size", size);
+    if (args.size() != 1) {
+        err << "Aufruf: quorix page STICHWORT|#NUMMER [--png DATEI] [--size BxH]\n";
+        return 2;
+    }
+    int w = 1008, h = 710;
+    if (mitGroesse && !groesseLesen(size, w, h)) {
+        err << "Ungültige Größe: " << size << "\n";
+        return 2;
+    }
+    TForm1 f(true);
+    fensterZeigen(f, w, h + 0);
+    bool ok;
+    if (args[0].size() > 1 && args[0][0] == '#') {
+        char* end = nullptr;
+        const long n = std::strtol(args[0].c_str() + 1, &end, 10);
+        if (*end || n < 0) {
+            err << "Ungültige Seitennummer: " << args[0] << "\n";
+            return 2;
+        }
+        ok = f.seiteWaehlen(static_cast<int>(n));
+    } else {
+        ok = f.stichwortWaehlen(platform::utf8ToCp1252(args[0]));
+    }
+    if (!ok) {
+        err << "Keine Seite zu \"" << args[0] << "\" gefunden\n";
+        return 1;
+    }
+    QApplication::processEvents();
+    out << "Titel\t" << utf8(f.seitentitel()) << "\n";
+    for (const auto& l : f.linkfeld())
+        out << "Link\t" << l.x1 << "\t" << l.y1 << "\t" << l.x2 << "\t" << utf8(l.text) << "\n";
+    if (!png.empty() && !f.seitenbild().savePng(png)) {
+        err << "Bild kann nicht gespeichert werden: " << png << "\n";
+        return 1;
+    }
+    return 0;
+}
+
+int cmdCatalog(quorix::Args args, std::ostream& out, std::ostream& err)
+{
+    if (args.size() != 1) {
+        err << "Aufruf: quorix catalog TITEL\n";
+        return 2;
+    }
+    TForm1 f(true);
+    lexicon::ToolTriple t;
+    if (!f.katalog().suche(platform::utf8ToCp1252(args[0]), t))
+        return 1;
+    out << t.nummer << " " << t.seite << " " << t.punkt << "\n";
+    return 0;
+}
+
+int cmdKeywords(quorix::Args args, std::ostream& out, std::ostream& err)
+{
+    if (!args.empty()) {
+        err << "Aufruf: quorix keywords\n";
+        return 2;
+    }
+    TForm1 f(true);
+    for (const auto& z : f.lb1Zeilen()) {
+        const size_t tab = z.find('\t');
+        out << utf8(z.substr(0, tab)) << "\t" << (tab == std::string::npos ? "" : z.substr(tab + 1, 5)) << "\n";
+    }
+    return 0;
+}
+
+int cmdTool(quorix::Args args, std::ostream& out, std::ostream& err)
+{
+    std::string png, page, item;
+    quorix::takeOption(args, "--png", png);
+    quorix::takeOption(args, "--page", page);
+    quorix::takeOption(args, "--item", item);
+    if (args.size() != 1 || png.empty()) {
+        err << "Aufruf: quorix tool N [--page P] [--item I] --png DATEI\n";
+        return 2;
+    }
+    const int n = std::atoi(args[0].c_str());
+    TForm1 f(true);
+    fensterZeigen(f, 1008, 710 + f.height() - 710);
+    if (n == 0) {
+        QApplication::processEvents();
+        return f.grab().save(QString::fromStdString(png), "PNG") ? 0 : 1;
+    }
+    lexicon::werkzeugnummer = n;
+    lexicon::wahlseite = page.empty() ? -1 : std::atoi(page.c_str());
+    lexicon::wahlpunkt = item.empty() ? -1 : std::atoi(item.c_str());
+    bildZiel = png;
+    const bool ok = teilprogrammstarten(&f);
+    bildZiel.clear();
+    if (!ok) {
+        err << "Werkzeug " << n << " ist in dieser Ausgabe nicht vorhanden\n";
+        return 1;
+    }
+    (void)out;
+    return 0;
+}
+
+int cmdPagewalk(quorix::Args args, std::ostream& out, std::ostream& err)
+{
+    if (!args.empty()) {
+        err << "Aufruf: quorix pagewalk\n";
+        return 2;
+    }
+    TForm1 f(true);
+    fensterZeigen(f, 1008, f.height());
+    f.B2C();
+    QElapsedTimer uhr;
+    uhr.start();
+    const int seiten = f.M766C();
+    char buf[32];
+    std::snprintf(buf, sizeof buf, "%.3f", uhr.nsecsElapsed() / 1e9);
+    out << seiten << "\t" << buf << "\n";
+    return 0;
+}
+
+}  // namespace
+
+std::vector<quorix::HeadlessCommand> appCommands()
+{
+    return {
+        {"page", "page STICHWORT|#NUMMER [--png DATEI] [--size BxH]  Seite zeichnen, Links auflisten", cmdPage},
+        {"catalog", "catalog TITEL  Werkzeugnummer, Seite und Punkt eines Katalogtitels", cmdCatalog},
+        {"keywords", "keywords  die Stichwortliste mit Seitennummern", cmdKeywords},
+        {"tool", "tool N [--page P] [--item I] --png DATEI  Bild eines Werkzeugfensters (0: Hauptfenster)", cmdTool},
+        {"pagewalk", "pagewalk  alle Seiten nacheinander zeigen: Seiten und Sekunden", cmdPagewalk},
+    };
+}
+
+std::vector<quorix::HeadlessCommand> alleBefehle()
+{
+    std::vector<quorix::HeadlessCommand> alle = appCommands();
+    return alle;
+}
+
 int runQuorix(int argc, char** argv)
 {
-    QApplication a(argc, argv);
-    return 0;
+    if (argc > 1) {
+        // Headless: no display needed.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
+            const QByteArray dir = "/tmp/quorix-runtime-" + QByteArray::number(getuid());
+            mkdir(dir.constData(), 0700);
+            qputenv("XDG_RUNTIME_DIR", dir);
+        }
+        // The offscreen platform's notes about window hints mean nothing to a command's user.
+        qInstallMessageHandler([](QtMsgType t, const QMessageLogContext&, const QString& m) {
+            if (t != QtDebugMsg && t != QtInfoMsg && !m.contains("propagateSizeHints"))
+                std::cerr << m.toStdString() << "\n";
+        });
+        ausnahmenAufKonsole = true;
+        QuorixApplication a(argc, argv);
+        a.setApplicationName("Quorix");
+        const std::string name = argv[1];
+        quorix::Args args(argv + 2, argv + argc);
+        const auto befehle = alleBefehle();
+        if (name == "help" || name == "--help" || name == "-h") {
+            std::cout << "Aufruf: quorix [BEFEHL ARGUMENTE...]\nOhne Befehl öffnet sich das Hauptfenster.\n\n";
+            for (const auto& b : befehle)
+                std::cout << "  " << b.usage << "\n";
+            std::cout << "  help  diese Übersicht\n";
+            return 0;
+        }
+        for (const auto& b : befehle) {
+            if (b.name == name) {
+                try {
+                    return b.run(args, std::cout, std::cerr);
+                } catch (const std::exception& e) {
+                    std::cerr << e.what() << "\n";
+                    return 1;
+                }
+            }
+        }
+        std::cerr << "Unbekannter Befehl: " << name << " (quorix help listet alle)\n";
+        return 2;
+    }
+    QuorixApplication a(argc, argv);
+    a.setApplicationName("Quorix");
+    TForm1 f;
+    f.show();
+    return a.exec();
 }
 
 }  // namespace app

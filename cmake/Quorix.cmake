@@ -2,7 +2,7 @@
 # Builds quorix_<name> from every .cpp below the calling folder. Cores without QT link no Qt at all.
 function(quorix_library name)
   cmake_parse_arguments(Q "QT;WIDGETS" "" "DEPENDS;LIBS" ${ARGN})
-  file(GLOB_RECURSE srcs CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.qrc)
+  file(GLOB_RECURSE srcs CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h ${CMAKE_CURRENT_SOURCE_DIR}/*.qrc)
   add_library(quorix_${name} STATIC ${srcs})
   target_include_directories(quorix_${name} PUBLIC ${CMAKE_SOURCE_DIR})
   target_compile_options(quorix_${name} PRIVATE -Wall -Wextra -Wno-unused-parameter)

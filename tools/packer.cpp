@@ -180,7 +180,8 @@ std::vector<StringList> buildBlocks(const std::vector<SourcePage>& pages)
             if (it == byNumber.end()) {
                 // Past the last page the head lines repeat the last real one (the page walk
                 // finds the end of the data this way); gaps inside have no content.
-                block[local] = (n > last && lastReal >= 0) ? block[lastReal] : "-1";
+                // Gaps get distinct negative numbers so that only the tail repeats.
+                block[local] = (n > last && lastReal >= 0) ? block[lastReal] : std::to_string(-(local + 1));
                 continue;
             }
             const SourcePage& p = *it->second;
