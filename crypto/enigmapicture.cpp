@@ -3,6 +3,7 @@
 #include "crypto/enigma.h"
 #include "platform/canvas.h"
 
+#include <algorithm>
 #include <string>
 
 namespace crypto {
@@ -12,6 +13,40 @@ using namespace platform;
 namespace {
 
 const char* const kRows[3] = {"QWERTZUIO", "ASDFGHJK", "PYXCVBNML"};  // the German keyboard
+
+// Where the parts of the machine lie; drawing and the mouse's hit test share it.
+struct Layout {
+    int m = 12;
+    int rotorTop = 26;
+    int windowW = 58, windowH = 96, gap = 40;
+    int rotorsLeft = 0;
+    int boardTop = 0, boardW = 0, boardLeft = 0;
+    int lampRows = 36;
+    int keysTop = 0, keyRows = 28;
+    bool hasKeys = false;
+};
+
+Layout layoutFor(int width, int height)
+{
+    Layout l;
+    l.rotorsLeft = width / 2 - (3 * l.windowW + 2 * l.gap) / 2;
+    l.boardTop = l.rotorTop + l.windowH + 44;
+    l.boardW = std::min(width - 4 * l.m, 480);
+    l.boardLeft = (width - l.boardW) / 2;
+    l.keysTop = l.boardTop + 3 * l.lampRows + 20;
+    l.hasKeys = l.keysTop + 3 * l.keyRows + 24 < height - l.m;
+    return l;
+}
+
+// Centre of key k in row `row` of a board.
+void keyCentre(int left, int top, int width, int rowHeight, int row, int k, int& cx, int& cy)
+{
+    const int step = width / 9;
+    const int len = static_cast<int>(std::string(kRows[row]).size());
+    const int rowLeft = left + (9 - len) * step / 2;
+    cx = rowLeft + k * step + step / 2;
+    cy = top + row * rowHeight + rowHeight / 2;
+}
 
 char letter(int pos)  // 1..26
 {
@@ -27,13 +62,11 @@ void centredText(Canvas& c, int cx, int y, const std::string& s)
 void drawBoard(Canvas& c, int left, int top, int width, int rowHeight, int radius, int lit, TColor litColour,
                TColor offColour, TColor textOn, TColor textOff)
 {
-    const int step = width / 9;
     for (int row = 0; row < 3; ++row) {
         const std::string keys = kRows[row];
-        const int rowLeft = left + (9 - static_cast<int>(keys.size())) * step / 2;
         for (std::size_t k = 0; k < keys.size(); ++k) {
-            const int cx = rowLeft + static_cast<int>(k) * step + step / 2;
-            const int cy = top + row * rowHeight + rowHeight / 2;
+            int cx, cy;
+            keyCentre(left, top, width, rowHeight, row, static_cast<int>(k), cx, cy);
             const bool on = keys[k] - 'A' == lit;
             c.setPenColor(rgb(20, 20, 20));
             c.setPenWidth(2);
@@ -59,16 +92,17 @@ void drawEnigmaMachine(Canvas& c, int width, int height, const EnigmaPicture& p)
     c.setBrushStyle(BrushStyle::Solid);
     c.setBrushColor(rgb(120, 84, 48));
     c.rectangle(0, 0, width, height);
-    const int m = 12;
+    const Layout lay = layoutFor(width, height);
+    const int m = lay.m;
     c.setBrushColor(rgb(48, 48, 52));
     c.rectangle(m, m, width - m, height - m);
     c.setFontName("Verdana");
 
     // rotor windows: the letter in the window with its neighbours above and below
-    const int rotorTop = m + 14;
-    const int windowW = 58, windowH = 96;
-    const int gap = 40;
-    const int rotorsLeft = width / 2 - (3 * windowW + 2 * gap) / 2;
+    const int rotorTop = lay.rotorTop;
+    const int windowW = lay.windowW, windowH = lay.windowH;
+    const int gap = lay.gap;
+    const int rotorsLeft = lay.rotorsLeft;
     static const char* const kSlot[3] = {"links", "Mitte", "rechts"};
     for (int k = 0; k < 3; ++k) {
         const int x = rotorsLeft + k * (windowW + gap);
@@ -113,10 +147,10 @@ void drawEnigmaMachine(Canvas& c, int width, int height, const EnigmaPicture& p)
     }
 
     // the lamp board
-    const int boardTop = rotorTop + windowH + 44;
-    const int boardW = std::min(width - 4 * m, 480);
-    const int boardLeft = (width - boardW) / 2;
-    const int lampRows = 36;
+    const int boardTop = lay.boardTop;
+    const int boardW = lay.boardW;
+    const int boardLeft = lay.boardLeft;
+    const int lampRows = lay.lampRows;
     c.setFontSize(11);
     drawBoard(c, boardLeft, boardTop, boardW, lampRows, 14, p.litLamp, rgb(255, 226, 80), rgb(70, 70, 74),
               clBlack, rgb(170, 170, 170));
@@ -127,9 +161,9 @@ void drawEnigmaMachine(Canvas& c, int width, int height, const EnigmaPicture& p)
     c.textOut(boardLeft - 6, boardTop - 18, "Lampenfeld");
 
     // the keyboard below, if there is room
-    const int keysTop = boardTop + 3 * lampRows + 20;
-    const int keyRows = 28;
-    if (keysTop + 3 * keyRows + 24 < height - m) {
+    const int keysTop = lay.keysTop;
+    const int keyRows = lay.keyRows;
+    if (lay.hasKeys) {
         c.setFontSize(9);
         drawBoard(c, boardLeft, keysTop, boardW, keyRows, 11, p.keyPressed, rgb(140, 140, 150), rgb(25, 25, 28),
                   clWhite, rgb(230, 230, 230));
@@ -151,6 +185,21 @@ void drawEnigmaMachine(Canvas& c, int width, int height, const EnigmaPicture& p)
     c.setFontColor(rgb(220, 220, 220));
     c.setBrushStyle(BrushStyle::Clear);
     c.textOut(m + 10, height - m - 20, "Steckerbrett: " + (plugs.empty() ? std::string("keine Verbindung") : plugs));
+}
+
+int enigmaKeyAt(int width, int height, int x, int y)
+{
+    const Layout lay = layoutFor(width, height);
+    if (!lay.hasKeys)
+        return -1;
+    for (int row = 0; row < 3; ++row)
+        for (int k = 0; kRows[row][k]; ++k) {
+            int cx, cy;
+            keyCentre(lay.boardLeft, lay.keysTop, lay.boardW, lay.keyRows, row, k, cx, cy);
+            if ((x - cx) * (x - cx) + (y - cy) * (y - cy) <= 13 * 13)
+                return kRows[row][k] - 'A';
+        }
+    return -1;
 }
 
 }  // namespace crypto

@@ -18,5 +18,7 @@ struct EnigmaPicture {
 };
 
 void drawEnigmaMachine(platform::Canvas& c, int width, int height, const EnigmaPicture& p);
+// The key of the drawn keyboard under (x, y): 0..25, or -1.
+int enigmaKeyAt(int width, int height, int x, int y);
 
 }  // namespace crypto

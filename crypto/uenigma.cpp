@@ -15,6 +15,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -38,6 +39,13 @@ protected:
         QPainter painter(this);
         platform::Canvas c(&painter);
         drawEnigmaMachine(c, width(), height(), owner_->picture());
+    }
+    // In live mode the keys of the drawn keyboard can be pressed with the mouse.
+    void mousePressEvent(QMouseEvent* ev) override
+    {
+        const int key = enigmaKeyAt(width(), height(), ev->pos().x(), ev->pos().y());
+        if (key >= 0)
+            owner_->typeLetter(static_cast<char>('A' + key));
     }
 
 private:
@@ -398,6 +406,15 @@ void Tenigmaf::S1C(bool on)
     }
     setControlsEnabled(!on);
     view_->update();
+}
+
+void Tenigmaf::typeLetter(char letter)
+{
+    if (!liveMode_ || !live_ || Me1_->isReadOnly())
+        return;
+    Me1_->moveCursor(QTextCursor::End);
+    Me1_->insertPlainText(QString(QChar(letter)));
+    liveKey(letter);
 }
 
 void Tenigmaf::liveKey(char letter)

@@ -27,6 +27,8 @@ public:
     EnigmaPicture picture() const;
     // Batch run of the whole input text (the button "Ver- und Entschlüsseln").
     void B1C();
+    // Live mode: a key of the drawn keyboard typed with the mouse.
+    void typeLetter(char letter);
 
 protected:
     bool eventFilter(QObject* obj, QEvent* ev) override;

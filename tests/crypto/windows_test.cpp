@@ -155,6 +155,20 @@ TEST(EnigmaWindow, LiveModeTypesAndLightsTheLamp)
     EXPECT_EQ(w.picture().litLamp, 'O' - 'A');
     EXPECT_FALSE(child<QComboBox>(&w, "C1")->isEnabled());
     EXPECT_TRUE(grabShowsSomething(&w, "crypto_tenigmaf.png"));
+    // the drawn keyboard answers the mouse: one more A gives the sixth letter, W
+    QWidget* view = child<QWidget>(&w, "PB1");
+    QPoint keyA(-1, -1);
+    for (int y = 0; y < view->height() && keyA.x() < 0; ++y)
+        for (int x = 0; x < view->width(); ++x)
+            if (crypto::enigmaKeyAt(view->width(), view->height(), x, y) == 0) {
+                keyA = QPoint(x + 3, y + 3);
+                break;
+            }
+    ASSERT_GE(keyA.x(), 0) << "no key A on the drawn keyboard";
+    QTest::mouseClick(view, Qt::LeftButton, {}, keyA);
+    EXPECT_EQ(me1->toPlainText(), "AAAAAA");
+    EXPECT_EQ(me2->toPlainText(), "BDZGOW");
+    EXPECT_EQ(w.picture().keyPressed, 0);
     QTest::mouseClick(s1, Qt::LeftButton);
     EXPECT_EQ(w.picture().litLamp, -1);
     EXPECT_TRUE(child<QComboBox>(&w, "C1")->isEnabled());
