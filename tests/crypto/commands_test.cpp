@@ -57,6 +57,11 @@ TEST(Commands, Cipher)
     ASSERT_EQ(aes.code, 0);
     EXPECT_EQ(aes.out.size(), 8u + 32u + 1u);
     EXPECT_EQ(run("cipher", {"14", "--decrypt", aes.out.substr(0, 40)}).out, "Geheim\n");
+    // the full Vigenère code may hold any sign from 31 to 255; it goes through UTF-8 and back
+    const Result v = run("cipher", {"0", "--encrypt", "--key", "\xC3\xBF\xC3\xBF", "Gr\xC3\xBC\xC3\x9F" "e \xE2\x82\xAC"});
+    ASSERT_EQ(v.code, 0);
+    EXPECT_EQ(run("cipher", {"0", "--decrypt", "--key", "\xC3\xBF\xC3\xBF", v.out.substr(0, v.out.size() - 1)}).out,
+              "Gr\xC3\xBC\xC3\x9F" "e \xE2\x82\xAC\n");
     // the text may come in several arguments
     EXPECT_EQ(run("cipher", {"5", "--encrypt", "A", "Z"}).out, "ZA\n");
 }

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -203,6 +204,12 @@ TEST(EnigmaWindow, BatchRunSettingsAndPlugboard)
     EXPECT_EQ(c9->findText("Z"), -1);
     EXPECT_EQ(c9->count(), 24);
     EXPECT_TRUE(child<QLineEdit>(&w, "settingsLine")->text().contains("; EZ;"));
+
+    // a pasted text is prepared as on load
+    QApplication::clipboard()->setText(QString::fromUtf8("Grüße 3!"));
+    me1->clear();
+    QTest::mouseClick(child<QPushButton>(&w, "paste"), Qt::LeftButton);
+    EXPECT_EQ(me1->toPlainText(), "GRUESSEDREI");
 
     // reset
     QTest::mouseClick(child<QPushButton>(&w, "D3"), Qt::LeftButton);
