@@ -25,8 +25,9 @@ QApplication& app()
     static int argc = 1;
     static char name[] = "test_crypto";
     static char* argv[] = {name, nullptr};
-    static QApplication a(argc, argv);
-    return a;
+    // left alive to the end: tearing Qt down among the static destructors crashes
+    static QApplication* a = new QApplication(argc, argv);
+    return *a;
 }
 
 template <class T>
