@@ -138,8 +138,7 @@ void TForm23::FormCreate()
 
     if (wahlpunkt_ >= 0 && wahlpunkt_ < methodCount)
         CB1_->setCurrentIndex(wahlpunkt_);
-    E_->setText(defaultCodeWord);
-    CB1C();
+    CB1C();  // the key field starts empty: the first run writes the default into it
 }
 
 void TForm23::CB1C()

@@ -71,3 +71,24 @@ TEST(VigenereAnalysis, ShortTextsLimitTheKeyLength)
     EXPECT_FALSE(tiny.found);
     EXPECT_EQ(tiny.message, "Text l\xE4sst nur Erkennung eines Codewortes von maximal 0 Zeichen zu");
 }
+
+TEST(VigenereAnalysis, KeysOfEveryLengthUpTo16)
+{
+    const std::string plain = lettersOnly(germanText());
+    unsigned seed = 12345;
+    int wrong = 0;
+    for (int len = 1; len <= 16; ++len)
+        for (int trial = 0; trial < 3; ++trial) {
+            std::string key;
+            for (int i = 0; i < len; ++i) {
+                seed = seed * 1103515245u + 12345u;
+                key += static_cast<char>('A' + (seed >> 16) % 26);
+            }
+            const VigenereAnalysis a = analyseVigenere(encipher(1, plain, key).output);
+            if (a.key != key) {
+                ++wrong;
+                ADD_FAILURE() << "key " << key << " found as " << a.key;
+            }
+        }
+    EXPECT_EQ(wrong, 0);
+}
