@@ -464,16 +464,21 @@ void Tenigmaf::D1C()
                                                       "Einstellung (*.txt);;Alle Dateien (*)");
     if (path.isEmpty())
         return;
+    if (!loadSettingsFile(path))
+        QMessageBox::warning(this, "Quorix",
+                             QString::fromUtf8("Die Datei enth\xC3\xA4lt keine g\xC3\xBCltige Maschineneinstellung."));
+}
+
+bool Tenigmaf::loadSettingsFile(const QString& path)
+{
     bool ok = false;
     const std::string text = readTextFile(path, ok);
     EnigmaSettings s;
     const std::string first = text.substr(0, text.find_first_of("\r\n"));
-    if (!ok || !parseSettingsLine(first, s)) {
-        QMessageBox::warning(this, "Quorix",
-                             QString::fromUtf8("Die Datei enth\xC3\xA4lt keine g\xC3\xBCltige Maschineneinstellung."));
-        return;
-    }
+    if (!ok || !parseSettingsLine(first, s))
+        return false;
     applySettings(s);
+    return true;
 }
 
 void Tenigmaf::D2C()
@@ -484,8 +489,13 @@ void Tenigmaf::D2C()
         return;
     if (!path.contains('.'))
         path += ".txt";
-    if (!writeTextFile(path, settingsLine(settings()) + "\n"))
+    if (!saveSettingsFile(path))
         QMessageBox::warning(this, "Quorix", "Die Datei konnte nicht geschrieben werden.");
+}
+
+bool Tenigmaf::saveSettingsFile(const QString& path) const
+{
+    return writeTextFile(path, settingsLine(settings()) + "\n");
 }
 
 void Tenigmaf::D3C()

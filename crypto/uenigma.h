@@ -27,6 +27,9 @@ public:
     EnigmaPicture picture() const;
     // Batch run of the whole input text (the button "Ver- und Entschlüsseln").
     void B1C();
+    // The settings line in a file ("Laden", "Speichern"); false if it cannot be read or written.
+    bool loadSettingsFile(const QString& path);
+    bool saveSettingsFile(const QString& path) const;
     // Live mode: a key of the drawn keyboard typed with the mouse.
     void typeLetter(char letter);
 

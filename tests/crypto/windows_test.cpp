@@ -212,6 +212,16 @@ TEST(EnigmaWindow, BatchRunSettingsAndPlugboard)
     QTest::mouseClick(child<QPushButton>(&w, "paste"), Qt::LeftButton);
     EXPECT_EQ(me1->toPlainText(), "GRUESSEDREI");
 
+    // the settings line goes to a file and comes back
+    const QString file = QString(QUORIX_BUILD_DIR) + "/crypto_enigma_settings.txt";
+    ASSERT_TRUE(w.saveSettingsFile(file));
+    crypto::Tenigmaf other;
+    ASSERT_TRUE(other.loadSettingsFile(file));
+    EXPECT_EQ(child<QLineEdit>(&other, "settingsLine")->text(), child<QLineEdit>(&w, "settingsLine")->text());
+    EXPECT_TRUE(child<QCheckBox>(&other, "CB1")->isChecked());
+    EXPECT_EQ(child<QComboBox>(&other, "C3")->currentText(), "I");
+    EXPECT_FALSE(other.loadSettingsFile(QString(QUORIX_TEST_DATA) + "/german.txt"));
+
     // reset
     QTest::mouseClick(child<QPushButton>(&w, "D3"), Qt::LeftButton);
     EXPECT_EQ(child<QLineEdit>(&w, "settingsLine")->text(), "I-II-III; A-A-A; n/a; n/a; n/a; n/a; n/a; n/a");
