@@ -6,6 +6,7 @@
 #include "crypto/vigenereanalysis.h"
 #include "platform/codepage.h"
 
+#include <cctype>
 #include <set>
 
 namespace crypto {
