@@ -2,6 +2,7 @@
 
 #include "app/teilprogramm.h"
 #include "app/winfkt.h"
+#include "crypto/commands.h"
 #include "kernel/headless.h"
 #include "lexicon/globals.h"
 #include "lexicon/toolcatalog.h"
@@ -191,6 +192,10 @@ std::vector<quorix::HeadlessCommand> appCommands()
 std::vector<quorix::HeadlessCommand> alleBefehle()
 {
     std::vector<quorix::HeadlessCommand> alle = appCommands();
+    for (auto* satz : {&crypto::cryptoCommands}) {
+        auto mehr = satz();
+        alle.insert(alle.end(), mehr.begin(), mehr.end());
+    }
     return alle;
 }
 

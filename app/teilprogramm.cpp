@@ -1,5 +1,6 @@
 #include "app/teilprogramm.h"
 
+#include "crypto/windows.h"
 #include "lexicon/globals.h"
 
 #include <QApplication>
@@ -47,7 +48,7 @@ const std::vector<WerkzeugEintrag>& werkzeugtabelle()
             {14, A::A, "TForm14", {}},      {15, A::A, "TFphy", {}},       {16, A::A, "TForm16", {}},
             {17, A::A, "TForm17", {}},      {18, A::A, "Ttranskoord", {}}, {19, A::B, "Tfphase", {}},
             {20, A::A, "TForm20", {}},      {21, A::A, "TForm21", {}},     {22, A::A, "TForm22", {}},
-            {23, A::A, "TForm23", {}},      {24, A::A, "TForm24", {}},     {25, A::A, "TxDreieck", {}},
+            {23, A::A, "TForm23", crypto::createTForm23},      {24, A::A, "TForm24", {}},     {25, A::A, "TxDreieck", {}},
             {26, A::A, "TFourier1", {}},    {27, A::A, "Troform", {}},     {28, A::B, "Tfaktform", {}},
             {29, A::A, "TcForm11", {}},     {30, A::A, "TForm30", {}},     {31, A::A, "TFchem", {}},
             {32, A::A, "TpForm10", {}},     {33, A::A, "Tzahlz", {}},      {34, A::A, "TaForm37", {}},
@@ -62,7 +63,7 @@ const std::vector<WerkzeugEintrag>& werkzeugtabelle()
             {59, A::A, "Tf11dual", {}},     {60, A::A, "TFimpkurv", {}},   {61, A::A, "Tphy3", {}},
             {62, A::B, "Taform1", {}},      {63, A::A, "Tfkarten", {}},    {64, A::A, "Tfspann", {}},
             {65, A::A, "TFbrute", {}},      {66, A::A, "TpForm8", {}},     {67, A::A, "Tphyf2", {}},
-            {68, A::A, "TQuiz1", {}},       {69, A::A, "Tfsortier", {}},   {70, A::A, "Tenigmaf", {}},
+            {68, A::A, "TQuiz1", {}},       {69, A::A, "Tfsortier", {}},   {70, A::A, "Tenigmaf", crypto::createTenigmaf},
             {71, A::E, "quorixo.exe", {}},  {72, A::A, "Tphraum", {}},     {73, A::A, "TForm31h", {}},
             {74, A::B, "Tfvierfarbe", {}},  {75, A::A, "Tgfilter", {}},    {76, A::A, "Tfsokoban", {}},
             {77, A::A, "Ttspform", {}},     {78, A::A, "Tf11bezier", {}},  {79, A::B, "Tfnform", {}},
