@@ -9,6 +9,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 using app::TForm1;
@@ -20,7 +21,7 @@ class Shell : public ::testing::Test {
 protected:
     static void SetUpTestSuite()
     {
-        ordner_ = fs::temp_directory_path() / "quorix_shell_test";
+        ordner_ = fs::temp_directory_path() / ("quorix_shell_test_" + std::to_string(::getpid()));
         fs::remove_all(ordner_);
         fs::create_directories(ordner_);
         packer::packAll(QUORIX_TEST_DATA "/testdaten", ordner_.string());
