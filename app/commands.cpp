@@ -2,6 +2,7 @@
 
 #include "app/teilprogramm.h"
 #include "app/winfkt.h"
+#include "app/lint.h"
 #include "crypto/commands.h"
 #include "kernel/headless.h"
 #include "lexicon/globals.h"
@@ -176,6 +177,21 @@ int cmdPagewalk(quorix::Args args, std::ostream& out, std::ostream& err)
     return 0;
 }
 
+int cmdLint(quorix::Args args, std::ostream& out, std::ostream& err)
+{
+    if (!args.empty()) {
+        err << "Aufruf: quorix lint\n";
+        return 2;
+    }
+    TForm1 f(true);
+    fensterZeigen(f, 1008, f.height());
+    f.B2C();
+    const int n = lexikonPruefen(f, out);
+    if (n > 0)
+        err << n << " Probleme gefunden\n";
+    return n > 0 ? 1 : 0;
+}
+
 }  // namespace
 
 std::vector<quorix::HeadlessCommand> appCommands()
@@ -185,6 +201,7 @@ std::vector<quorix::HeadlessCommand> appCommands()
         {"catalog", "catalog TITEL  Werkzeugnummer, Seite und Punkt eines Katalogtitels", cmdCatalog},
         {"keywords", "keywords  die Stichwortliste mit Seitennummern", cmdKeywords},
         {"tool", "tool N [--page P] [--item I] --png DATEI  Bild eines Werkzeugfensters (0: Hauptfenster)", cmdTool},
+        {"lint", "lint  das Lexikon prüfen: tote Links, Werkzeugtitel, Blättern, Seitenhöhe", cmdLint},
         {"pagewalk", "pagewalk  alle Seiten nacheinander zeigen: Seiten und Sekunden", cmdPagewalk},
     };
 }

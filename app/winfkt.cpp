@@ -631,6 +631,7 @@ void TForm1::LB1C()
             erg = maler.maleSeite(store_.seitenblock, L, breite, p12Breite_ == 264);
         }
         titel_ = erg.titel;
+        seitenEnde_ = erg.yEnde;
         titelLabel_->setText(fromCp1252(titel_));
         linkfeld_ = erg.links;
         bildseite_ = erg.bildseite;

@@ -69,6 +69,8 @@ public:
     bool startbildOffen() const { return p3Offen_; }
     int menuzaehler(int i) const { return menuzaehler_[static_cast<size_t>(i)]; }
     const std::string& letzteAktion() const { return letzteAktion_; }
+    int seitenEnde() const { return seitenEnde_; }  // y below the last painted line
+    lexicon::PageStore& pageStore() { return store_; }
     QStringList seitenrechnerZeilen() const;
     void seitenrechnerFelder(const QString& a, const QString& b, const QString& c = {});
     void anordnen();
@@ -138,6 +140,7 @@ private:
     bool malt_ = false;
     std::vector<short> menuzaehler_ = std::vector<short>(820, 0);
     std::string letzteAktion_;  // what the last click asked for, for the tests
+    int seitenEnde_ = 0;
 };
 
 // The page box: blits the off-screen picture and passes the mouse on.

@@ -1,3 +1,4 @@
+#include "app/lint.h"
 #include "app/winfkt.h"
 #include "lexicon/globals.h"
 #include "tools/packer.h"
@@ -9,6 +10,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <sstream>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -164,4 +166,19 @@ TEST_F(Shell, MenuEntryWithoutCatalogueTitleCountsButDoesNothing)
     EXPECT_EQ(form->menuzaehler(12), vorher + 1);
     EXPECT_EQ(lexicon::wahlseite, -1);
     EXPECT_TRUE(lexicon::werkzeugtitel == "Kein Werkzeug" || lexicon::werkzeugtitel.empty());
+}
+
+TEST_F(Shell, LintFindsDeadLinksUnknownToolsBrokenTurningAndMissingCrossReferences)
+{
+    std::ostringstream out;
+    const int n = app::lexikonPruefen(*form, out);
+    const std::string t = out.str();
+    EXPECT_NE(t.find("6\tFehlerseite\ttoter Link: Nirgendwo\n"), std::string::npos) << t;
+    EXPECT_NE(t.find("6\tFehlerseite\tWerkzeuglink ohne Katalogtitel: Unbekanntes Werkzeug\n"), std::string::npos);
+    EXPECT_EQ(t.find("Funktionenplotter"), std::string::npos);  // a catalogue title is fine
+    EXPECT_NE(t.find("6\tFehlerseite\tV:-Link führt nicht zur Fortsetzung desselben Artikels\n"), std::string::npos);
+    EXPECT_NE(t.find("6\tFehlerseite\tkein Querverweis\n"), std::string::npos);
+    EXPECT_EQ(t.find("1\tKreis\t"), std::string::npos);  // a sound page: V: and R: agree, one cross reference
+    EXPECT_EQ(t.find("2\tKreisumfang\t"), std::string::npos);
+    EXPECT_EQ(n, static_cast<int>(std::count(t.begin(), t.end(), '\n')));
 }
