@@ -7,6 +7,7 @@
 
 #include <QMainWindow>
 #include <array>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -51,6 +52,25 @@ public:
     void _M(int nummer, const QString& caption);
     void xmenu(const std::string& titel);
     void lexikonsichtbar(bool an);
+
+    // Finding (search window, bookmarks, favourites)
+    void S41C();
+    void Su1C();
+    void Le1C();
+    void Ein1Click();
+    void favoritensetzen();
+    void favoritenLoeschen();
+    bool sucheLaeuft() const { return zeitaufwaendig_; }
+    void sucheStoppen() { zeitaufwaendig_ = false; }
+    std::vector<std::string> volltextSuchen(const std::string& w1, const std::string& w2,
+                                            const std::function<void(int, int)>& fortschritt = {});
+    const platform::StringList& stichwortListe() const { return stichworte_; }
+    std::string aktuellesStichwort() const;
+    void stichwortSuchenUndZeigen(const std::string& text);
+    std::string meldung(int nummer) const;
+    class Tfsuche* suchfenster() const { return suche_; }
+    QAction* menuePunkt(const std::string& name) const;
+    void aktuellspeichern();
 
     // For commands and tests
     bool stichwortWaehlen(const std::string& stichwort);  // exact keyword -> LB1 selection + paint
@@ -140,6 +160,9 @@ private:
     bool malt_ = false;
     std::vector<short> menuzaehler_ = std::vector<short>(820, 0);
     std::string letzteAktion_;  // what the last click asked for, for the tests
+    class Tfsuche* suche_ = nullptr;
+    bool sucheoffen_ = false;
+    std::string suchwort1_, suchwort2_;
     int seitenEnde_ = 0;
 };
 
