@@ -2,6 +2,7 @@
 #include "app/winfkt.h"
 #include "lexicon/pagelayout.h"
 #include "lexicon/pagestore.h"
+#include "platform/container.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -69,6 +70,37 @@ int main(int argc, char** argv)
             r2.push_back(n / (t.nsecsElapsed() / 1e9));
         }
         std::printf("page layout and drawing alone (pages/s)\t%.0f\t-\t-\n", median(r2));
+    }
+
+    // Full-text search over the whole lexicon against grep -F over the same inflated text.
+    {
+        app::TForm1 f(true);
+        lexicon::PageStore store(std::string(QUORIX_BUILD_DIR) + "/000/");
+        const int bloecke = store.letzterBlock();
+        const std::string datei = "/tmp/quorix_bench_lexikon.txt";
+        {
+            std::string alles;
+            for (int b = 1; b <= bloecke; ++b)
+                alles += platform::joinLines(
+                    platform::loadTextResource(std::string(QUORIX_BUILD_DIR) + "/000/tlexikon.dll", "10", "t" + std::to_string(b)));
+            platform::writeFileSafely(datei, alles);
+        }
+        std::vector<double> eigen, grep;
+        size_t treffer = 0;
+        for (int i = 0; i < 7; ++i) {
+            QElapsedTimer t;
+            t.start();
+            treffer = f.volltextSuchen("Funktion", "").size();
+            eigen.push_back(t.nsecsElapsed() / 1e6);
+            QElapsedTimer g;
+            g.start();
+            QProcess q;
+            q.start("grep", {"-F", "-c", "Funktion", QString::fromStdString(datei)});
+            q.waitForFinished(30000);
+            grep.push_back(g.nsecsElapsed() / 1e6);
+        }
+        std::printf("full-text search, %d blocks, %zu hits (ms)\t%.2f\t%.2f\t%.2f\n", bloecke, treffer, median(eigen),
+                    median(grep), median(eigen) / median(grep));
     }
 
     // Cold start of the program to its first page: a fresh process each time.

@@ -1,5 +1,10 @@
 #include "app/lint.h"
 #include "app/winfkt.h"
+#include "app/usuche.h"
+#include "lexicon/einstellungen.h"
+#include "lexicon/suche.h"
+#include <QLabel>
+#include <QLineEdit>
 #include "lexicon/globals.h"
 #include "tools/packer.h"
 
@@ -181,4 +186,45 @@ TEST_F(Shell, LintFindsDeadLinksUnknownToolsBrokenTurningAndMissingCrossReferenc
     EXPECT_EQ(t.find("1\tKreis\t"), std::string::npos);  // a sound page: V: and R: agree, one cross reference
     EXPECT_EQ(t.find("2\tKreisumfang\t"), std::string::npos);
     EXPECT_EQ(n, static_cast<int>(std::count(t.begin(), t.end(), '\n')));
+}
+
+TEST_F(Shell, SearchWindowFindsPagesAndMarksTheWordsOnThePage)
+{
+    form->Su1C();
+    ASSERT_NE(form->suchfenster(), nullptr);
+    form->suchfenster()->E3->setText("Durchmesser");
+    form->suchfenster()->S26Click();
+    ASSERT_EQ(form->suchfenster()->LB4->count(), 1);
+    EXPECT_EQ(form->suchfenster()->L1->text(), QString::fromUtf8("1 Einträge"));
+    form->suchfenster()->LB4->setCurrentRow(0);
+    form->suchfenster()->LB4Click();
+    EXPECT_EQ(form->seitentitel(), "Radius");
+    int markiert = 0;
+    const auto& bild = form->seitenbild();
+    for (int y = 0; y < 60; ++y)
+        for (int x = 0; x < bild.width(); ++x)
+            markiert += bild.pixel(x, y) == platform::rgb(255, 255, 160);
+    EXPECT_GT(markiert, 100);
+    // Hidden, the window keeps the mark alive; the keyword list fills the result list.
+    form->suchfenster()->close();
+    form->S41C();
+    EXPECT_EQ(form->suchfenster()->LB4->count(), static_cast<int>(form->stichwortListe().size()));
+}
+
+TEST_F(Shell, BookmarksSurviveInTheUsersSettingsFile)
+{
+    form->lb1()->setCurrentRow(zeile("Zylinder"));
+    form->Le1C();
+    const int vorher = form->suchfenster()->LB4->count();
+    ASSERT_TRUE(form->suchfenster()->LB4->findItems("Zylinder", Qt::MatchExactly).isEmpty());
+    form->suchfenster()->S6Click();
+    form->suchfenster()->S6Click();  // no doubles
+    EXPECT_EQ(form->suchfenster()->LB4->count(), vorher + 1);
+    platform::StringList ini;
+    ASSERT_TRUE(lexicon::textDateiLesen(lexicon::datenpfad + "quorix.ini", ini));
+    EXPECT_NE(std::find(ini.begin(), ini.end(), "[LZeichen]"), ini.end());
+    form->suchfenster()->LB4->setCurrentRow(form->suchfenster()->LB4->count() - 1);
+    form->suchfenster()->S25Click();
+    lexicon::textDateiLesen(lexicon::datenpfad + "quorix.ini", ini);
+    EXPECT_EQ(lexicon::lesezeichenLesen(ini).size(), static_cast<size_t>(form->suchfenster()->LB4->count()));
 }
