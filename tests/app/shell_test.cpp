@@ -228,3 +228,21 @@ TEST_F(Shell, BookmarksSurviveInTheUsersSettingsFile)
     lexicon::textDateiLesen(lexicon::datenpfad + "quorix.ini", ini);
     EXPECT_EQ(lexicon::lesezeichenLesen(ini).size(), static_cast<size_t>(form->suchfenster()->LB4->count()));
 }
+
+TEST_F(Shell, SettingsAndUseCountsSurviveARestart)
+{
+    lexicon::einstellungen.querv = false;
+    lexicon::einstellungen.gOrt = "Halle, D";
+    form->lb1()->setCurrentRow(zeile("Radius"));
+    form->_M(33, "Nichts");
+    form->_M(33, "Nichts");
+    const short zaehler = form->menuzaehler(33);
+    form.reset();  // FormDestroy writes quorix.ini and mfavor.c00
+    lexicon::einstellungen = lexicon::Einstellungen{};
+    form = std::make_unique<TForm1>(true);
+    EXPECT_FALSE(lexicon::einstellungen.querv);
+    EXPECT_EQ(lexicon::einstellungen.gOrt, "Halle, D");
+    EXPECT_EQ(lexicon::einstellungen.lexikonseite, zeile("Radius"));
+    EXPECT_EQ(form->menuzaehler(33), zaehler);
+    lexicon::einstellungen.querv = true;
+}
