@@ -173,10 +173,10 @@ RiseSet PlanetRiseSet(double jd, double ra, double dec, double latitude, double 
         if (t < 0) t += 24;
         return t;
     };
+    // arccos(tan phi tan delta) is 12 h minus the semi-diurnal arc; the 12 h come off in clock()
     const double H = std::acos(x) * 12 / kPi;
-    // hour angle from the cosine, west positive: rising at -H, setting at +H
-    rs.rise = clock(-H);
-    rs.set = clock(H);
+    rs.rise = clock(H);
+    rs.set = clock(-H);
     return rs;
 }
 

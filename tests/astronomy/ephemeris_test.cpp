@@ -184,3 +184,44 @@ TEST(Almanac, EclipsesOfKnownYears)
     EXPECT_EQ(find(2023, 10, 28, false), EclipseKind::Partial);
     EXPECT_EQ(find(2023, 5, 5, false), EclipseKind::Penumbral);
 }
+
+TEST(Planets, VenusMeeus33a)
+{
+    // Meeus 33.a: Venus on 1992 December 20, 0h TD: geocentric longitude 313.08102 of date,
+    // distance 0.910947 AU. The observer planets work in the equinox J2000 (7.05 years of
+    // precession at 50.26"/yr later) from mean elements; tolerance 0.05 deg and 0.001 AU.
+    const PlanetRecord v = PlanetPosition("Venus", 2448976.5);
+    EXPECT_NEAR(v.geoLongitude, 313.08102 + 7.0335 * 0.01396, 0.05);
+    EXPECT_NEAR(v.geoLatitude, -2.08474, 0.05);
+    EXPECT_NEAR(v.distance, 0.910947, 0.001);
+    EXPECT_NEAR(v.diameter, 16.68 / v.distance, 1e-9);
+    // Venus stood east of the Sun: it rose before noon and set in the evening (zone hours)
+    const RiseSet rs = PlanetRiseSet(2448976.5, v.ra, v.dec, 50.8, 12.9, 1);
+    EXPECT_GT(rs.rise, 8);
+    EXPECT_LT(rs.rise, 12);
+    EXPECT_GT(rs.set, 18);
+    EXPECT_LT(rs.set, 21);
+    // an unknown key falls back to Venus
+    EXPECT_DOUBLE_EQ(PlanetPosition("Vulkan", 2448976.5).geoLongitude, v.geoLongitude);
+}
+
+TEST(Planets, RiseSetCodes)
+{
+    // beyond latitude 90 - |delta| the body never sets (-1) or never rises (-2)
+    RiseSet rs = PlanetRiseSet(2451545, 0, 20, 80, 0, 0);
+    EXPECT_EQ(rs.rise, -1);
+    EXPECT_EQ(rs.set, -1);
+    rs = PlanetRiseSet(2451545, 0, -20, 80, 0, 0);
+    EXPECT_EQ(rs.rise, -2);
+    EXPECT_EQ(rs.set, -2);
+}
+
+TEST(Planets, JupiterPerturbationRadius)
+{
+    // the radius correction is 0.2 + 1.6 - 1.1 - 0.5 - 0.4 + 0.6 - 0.6 + 0.2 + 0.2 = 0.2 (1e-3 AU) at L = 0
+    double dl, dr;
+    PlanetPerturbation("Jupiter", 2438000.5, dl, dr);
+    EXPECT_NEAR(dr, 0.0002, 1e-12);
+    const PlanetRecord a = PlanetPosition("Jupiter", 2438000.5), b = PlanetSimple("Jupiter", 2438000.5);
+    EXPECT_NEAR(a.radiusVector - b.radiusVector, 0.0002, 1e-12);
+}
