@@ -197,6 +197,21 @@ struct MoonAge {
 };
 MoonAge moonAge(double jd);
 
+// Rise, transit and set of the almanac group, from the positions of the previous, this and the
+// next day at 0 h dynamical time.
+enum class Horizon { Planet, Sun, Moon, Civil, Nautical, Astronomical, Custom };
+double horizonAltitude(Horizon h, double moonParallaxDeg = 0, double custom = 0);
+struct RiseTransitSet {
+    double rise = 0, transit = 0, set = 0;  // fractions of the day, UT
+    int code = 0;                           // 0 rises and sets, -1 always above, -2 always below
+};
+// theta0: apparent sidereal time at 0 h UT in degrees; longitude east-positive; deltaT in seconds.
+RiseTransitSet riseTransitSet(double theta0, const double ra[3], const double dec[3], double latitude,
+                              double longitude, double h0, double deltaT);
+
+// Central meridians of Jupiter (systems I and II), low-accuracy form, in degrees.
+void JupiterCentralMeridian(double jd, double& omega1, double& omega2);
+
 // Universal time of a dynamical time.
 double jdeToJd(double jde);
 // Text "dd.mm.yyyy hh:mm" of a JD shifted by zone hours, with the Julian calendar before 1582.

