@@ -337,7 +337,7 @@ void mars(long jdn, std::vector<std::string>& out)
     }
     out.push_back("Darischer Marskalender\t" + std::to_string(r + 1) + ". " + m[std::min(month, 23)] + " " +
                   std::to_string(y));
-    out.push_back(std::to_string(r % 7 + 1) + ".Wochentag, Sol \t" + wd[r % 7]);
+    out.push_back("\t" + std::to_string(r % 7 + 1) + ".Wochentag, Sol " + wd[r % 7]);
 }
 
 }  // namespace
@@ -466,6 +466,15 @@ std::vector<std::string> kalenderZeilen(const Date& d, const Resources& res, boo
         if (d.year >= 1789) out.push_back("Positivisten-Kalender\t" + positivist(d, res));
         mars(jdn, out);
         out.push_back("Cotsworth-Kalender\t" + cotsworth(d));
+        // the rule of the series' writers: 1000 units a year, counted from 2323
+        const int doy = dayOfYear(d);
+        const double len = isLeapCivil(d.year) ? 366 : 365;
+        out.push_back("Star Trek Sternzeit\t" + fmt("%.2f", (d.year - 2323) * 1000.0 + (doy - 1) / len * 1000.0));
+        // the day of the programmer is the 256th day of the year
+        char hex[16];
+        std::snprintf(hex, sizeof hex, "0x%03X", doy);
+        out.push_back("Programm-Tag\t" + std::to_string(doy) + ". Tag = " + hex);
+        if (doy == 256) out.push_back("\tProgramm-Feiertag");
     }
     {
         const MoonAge a = moonAge(jd + 0.5 - zone / 24);  // noon of the chosen day
