@@ -212,6 +212,19 @@ RiseTransitSet riseTransitSet(double theta0, const double ra[3], const double de
 // Central meridians of Jupiter (systems I and II), low-accuracy form, in degrees.
 void JupiterCentralMeridian(double jd, double& omega1, double& omega2);
 
+// Solar eclipse as seen by an observer near the new moon jd (UT): code 0 not to be seen,
+// 1 partial, 2 annular, 3 total; contacts 1..4 where they exist; the lines of the tool.
+struct LocalEclipse {
+    int code = 0;
+    double magnitude = 0;    // fraction of the Sun's diameter covered at maximum
+    double obscuration = 0;  // fraction of the Sun's disc covered at maximum
+    double maximum = 0;      // JD (UT)
+    double contact[4] = {0, 0, 0, 0};
+    bool hasContact[4] = {false, false, false, false};
+    std::vector<std::string> lines;
+};
+LocalEclipse solarEclipseAtObserver(double jdNewMoon, double latitude, double longitude);
+
 // Universal time of a dynamical time.
 double jdeToJd(double jde);
 // Text "dd.mm.yyyy hh:mm" of a JD shifted by zone hours, with the Julian calendar before 1582.

@@ -256,3 +256,27 @@ TEST(Almanac, JupiterCentralMeridianMeeus43a)
     EXPECT_NEAR(w2, 72.74, 0.5);
     EXPECT_NEAR(w1 - w2, 268.06 - 72.74, 0.02);
 }
+
+TEST(Almanac, SolarEclipseAtObserver)
+{
+    // 11 August 1999 in Munich (48.14 N, 11.58 E): total, maximum about 10:39 UT (published local
+    // circumstances; tolerance 3 min). Berlin (52.52 N, 13.40 E) saw a partial eclipse of
+    // magnitude 0.88 (tolerance 0.02).
+    const double nm = jdeToJd(MoonPhaseTime(std::round(lunationIndex(JulianDay(1999, 8, 11))), 0));
+    const LocalEclipse m = solarEclipseAtObserver(nm, 48.14, 11.58);
+    EXPECT_EQ(m.code, 3);
+    EXPECT_NEAR(m.maximum, JulianDay(1999, 8, 11) + (10 + 39 / 60.0) / 24, 3.0 / 1440);
+    for (int k = 0; k < 4; ++k) EXPECT_TRUE(m.hasContact[k]) << "contact " << k + 1;
+    EXPECT_LT(m.contact[0], m.contact[1]);
+    EXPECT_LT(m.contact[1], m.maximum);
+    EXPECT_LT(m.maximum, m.contact[2]);
+    EXPECT_LT(m.contact[2], m.contact[3]);
+    EXPECT_EQ(m.lines[0].rfind("Totale Finsternis mit M=", 0), 0u);
+    EXPECT_EQ(m.lines[1].rfind("Maximum um 10:", 0), 0u) << m.lines[1];
+    const LocalEclipse b = solarEclipseAtObserver(nm, 52.52, 13.40);
+    EXPECT_EQ(b.code, 1);
+    EXPECT_NEAR(b.magnitude, 0.88, 0.02);
+    EXPECT_FALSE(b.hasContact[1]);
+    // the same new moon is not seen at all from Sydney
+    EXPECT_EQ(solarEclipseAtObserver(nm, -33.87, 151.21).code, 0);
+}
