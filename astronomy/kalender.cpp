@@ -482,16 +482,37 @@ std::vector<std::string> kalenderZeilen(const Date& d, const Resources& res, boo
         out.push_back(std::string("Aktuelle Phase\t") + phaseName(a.nextKind) + " am " +
                       dateTimeText(jdeToJd(a.nextJde), zone));
         out.push_back("Mondabstand\t" + fmt("%.0f km", MoonPosition(jd + 0.5).distance));
-        const SunRecord s = SunPosition(jd + 0.5);
-        const RiseSet rs = PlanetRiseSet(jd + 0.5, s.ra, s.dec, breite, laenge, zone);
-        auto hm = [](double h) {
-            if (h < 0) return std::string(h == -1 ? "ständig sichtbar" : "unbeobachtbar");
-            const int mm = static_cast<int>(std::lround(h * 60)) % 1440;
+        // rise and set of Sun and Moon by the almanac routine, in zone time
+        const double dt = DeltaT(d.year);
+        const double jd0 = jd - zone / 24;  // 0 h zone time in UT
+        double sra[3], sde[3], mra[3], mde[3];
+        double par = 0;
+        for (int i = 0; i < 3; ++i) {
+            const SunRecord s = SunPosition(jd0 + i - 1 + dt);
+            const MoonRecord m = MoonPosition(jd0 + i - 1 + dt);
+            sra[i] = s.ra;
+            sde[i] = s.dec;
+            mra[i] = m.ra;
+            mde[i] = m.dec;
+            if (i == 1) par = m.parallax;
+        }
+        const double theta0 = ApparentSiderealTime(jd0);
+        // the fractions count from 0 h zone time, so they are zone time already
+        auto hm = [](double m, int code) {
+            if (code == -1) return std::string("ständig sichtbar");
+            if (code == -2) return std::string("unbeobachtbar");
+            const int mm = static_cast<int>(std::lround(m * 1440)) % 1440;
             char b[16];
-            std::snprintf(b, sizeof b, "%02d:%02d", mm / 60, mm % 60);
+            std::snprintf(b, sizeof b, "%02d:%02d", (mm + 1440) % 1440 / 60, (mm + 1440) % 60);
             return std::string(b);
         };
-        out.push_back("Zeiten für " + ort + "\tSonnenaufgang " + hm(rs.rise) + ", Sonnenuntergang " + hm(rs.set));
+        const RiseTransitSet sun =
+            riseTransitSet(theta0, sra, sde, breite, laenge, horizonAltitude(Horizon::Sun), dt * 86400);
+        const RiseTransitSet moon =
+            riseTransitSet(theta0, mra, mde, breite, laenge, horizonAltitude(Horizon::Moon, par), dt * 86400);
+        out.push_back("Zeiten für " + ort + "\tSonnenaufgang " + hm(sun.rise, sun.code) + ", Sonnenuntergang " +
+                      hm(sun.set, sun.code));
+        out.push_back("\tMondaufgang " + hm(moon.rise, moon.code) + ", Monduntergang " + hm(moon.set, moon.code));
     }
     for (const std::string& f : feiertage(d, res)) out.push_back("Feier-,Gedenktag\t" + f);
     bool first = true;
