@@ -309,6 +309,39 @@ std::string cotsworth(const Date& c)
     return std::to_string(k % 28 + 1) + ". " + m[k / 28] + " " + std::to_string(c.year);
 }
 
+// John Dee's proposal: Julian months, eight leap years in each cycle of 33 years (the years of the
+// cycle divisible by four), counted from 1 January of the year 1.
+std::string johnDee(long jdn)
+{
+    const long z = jdn - 1721426 + 1;  // day 1 is 1 January 1
+    long q, r;
+    if (z > 0) {
+        q = (z - 1) / 12053;
+        r = (z - 1) % 12053;
+    } else {
+        // the mirror form for days before the epoch
+        const long zz = -z;
+        q = -(zz / 12053) - 1;
+        r = 12052 - zz % 12053;
+    }
+    long year = 33 * q + 1;
+    for (int k = 1; k <= 33; ++k) {
+        const long len = (k % 4 == 0 && k < 33) ? 366 : 365;
+        if (r < len) break;
+        r -= len;
+        ++year;
+    }
+    const bool leap = ((year - 1) % 33 + 33) % 33 + 1 < 33 && (((year - 1) % 33 + 33) % 33 + 1) % 4 == 0;
+    static const int len[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    int month = 0;
+    for (; month < 12; ++month) {
+        const int l = len[month] + (month == 1 && leap ? 1 : 0);
+        if (r < l) break;
+        r -= l;
+    }
+    return std::to_string(r + 1) + "." + std::to_string(month + 1) + "." + std::to_string(year);
+}
+
 // Darian calendar of Mars: sols from the telescopic epoch, years of 668 and 669 sols.
 void mars(long jdn, std::vector<std::string>& out)
 {
@@ -465,6 +498,7 @@ std::vector<std::string> kalenderZeilen(const Date& d, const Resources& res, boo
         out.push_back("Diskordianischer Kalender\t" + discordian(d));
         if (d.year >= 1789) out.push_back("Positivisten-Kalender\t" + positivist(d, res));
         mars(jdn, out);
+        out.push_back("John Dee-Kalender\t" + johnDee(jdn));
         out.push_back("Cotsworth-Kalender\t" + cotsworth(d));
         // the rule of the series' writers: 1000 units a year, counted from 2323
         const int doy = dayOfYear(d);
