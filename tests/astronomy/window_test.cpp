@@ -22,6 +22,7 @@ TEST(Window, CalendarWindowShowsDate)
     // the ten dropped days of 1582 are never chosen
     w->setzeDatum({1582, 10, 10});
     EXPECT_EQ(w->gewaehlt().day, 15);
+    w->setzeDatum({2024, 10, 3});
     w->show();
     const QPixmap pic = w->grab();
     EXPECT_EQ(pic.size(), QSize(1008, 710));
