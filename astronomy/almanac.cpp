@@ -381,7 +381,8 @@ Eclipse NextEclipse(double k, bool solar)
             const double umbral = (1.0128 - u - g) / 0.5450;
             const double penumbral = (1.5573 + u - g) / 0.5450;
             if (penumbral <= 0) continue;
-            if (0.9128 - u - g > 0) ec.kind = EclipseKind::Total;
+            // total when the umbral magnitude reaches 1, i.e. 0.4678 - u - |gamma| >= 0
+            if (umbral >= 1) ec.kind = EclipseKind::Total;
             else if (umbral > 0) ec.kind = EclipseKind::Partial;
             else ec.kind = EclipseKind::Penumbral;
             ec.magnitude = umbral > 0 ? umbral : penumbral;

@@ -183,6 +183,10 @@ TEST(Almanac, EclipsesOfKnownYears)
     EXPECT_EQ(find(2022, 11, 8, false), EclipseKind::Total);
     EXPECT_EQ(find(2023, 10, 28, false), EclipseKind::Partial);
     EXPECT_EQ(find(2023, 5, 5, false), EclipseKind::Penumbral);
+    // 2026: total lunar eclipse on 3 March, partial one of umbral magnitude 0.93 on 28 August
+    EXPECT_EQ(find(2026, 3, 3, false), EclipseKind::Total);
+    EXPECT_EQ(find(2026, 8, 28, false), EclipseKind::Partial);
+    EXPECT_EQ(find(2026, 8, 12, true), EclipseKind::Total);
 }
 
 TEST(Planets, VenusMeeus33a)
