@@ -448,11 +448,12 @@ std::vector<std::string> kalenderZeilen(const Date& d, const Resources& res, boo
     if (more) out.push_back("Altägyptischer Kalender\t" + egyptian(jdn));
     {
         const HebrewDate h = hebrewFromDayNumber(jdn);
-        out.push_back("Jüdischer Kalender\t" + std::to_string(h.day) + ". " + hebrewMonthName(h.year, h.month) + " " +
+        if (h.year >= 1)
+            out.push_back("Jüdischer Kalender\t" + std::to_string(h.day) + ". " + hebrewMonthName(h.year, h.month) + " " +
                       std::to_string(h.year));
         if (d.year >= 359) out.push_back("\tPassahfest " + dmy(passover(d.year)));
     }
-    out.push_back("Ostersonntag\t" + dmy(easter(d.year)));
+    if (d.year >= 1) out.push_back("Ostersonntag\t" + dmy(easter(d.year)));
     if (more && d.year >= 1868) {
         const char* era = d.year < 1912 ? "Meiji " : d.year < 1926 ? "Taisho " : d.year < 1989 ? "Showa " : "Heisei ";
         const int base = d.year < 1912 ? 1867 : d.year < 1926 ? 1911 : d.year < 1989 ? 1925 : 1988;
