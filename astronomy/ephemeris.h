@@ -225,6 +225,15 @@ struct LocalEclipse {
 };
 LocalEclipse solarEclipseAtObserver(double jdNewMoon, double latitude, double longitude);
 
+// Central line of a solar eclipse: where the axis of the Moon's shadow meets the Earth at jd (UT).
+struct CentralPoint {
+    bool onEarth = false;
+    double latitude = 0, longitude = 0;  // degrees, longitude east-positive
+};
+CentralPoint centralLinePoint(double jd);
+// The line over the eclipse's span around a new moon, in steps of `minutes`: "hh:mm UT\tBreite\tLänge".
+std::vector<std::string> centralLine(double jdNewMoon, double minutes = 10);
+
 // Universal time of a dynamical time.
 double jdeToJd(double jde);
 // Text "dd.mm.yyyy hh:mm" of a JD shifted by zone hours, with the Julian calendar before 1582.

@@ -156,3 +156,64 @@ LocalEclipse solarEclipseAtObserver(double jdNewMoon, double lat, double lon)
 }
 
 }  // namespace astro
+
+namespace astro {
+
+CentralPoint centralLinePoint(double jd)
+{
+    const double jde = jd + DeltaT(JulianDayToDate(jd).year);
+    const SunRecord s = SunPosition(jde);
+    const MoonRecord m = MoonPosition(jde);
+    // geocentric equatorial vectors in Earth radii
+    const double au = 149597870.7 / 6378.14;
+    auto vec = [](double ra, double dec, double r, double v[3]) {
+        v[0] = r * std::cos(dec * kRad) * std::cos(ra * kRad);
+        v[1] = r * std::cos(dec * kRad) * std::sin(ra * kRad);
+        v[2] = r * std::sin(dec * kRad);
+    };
+    double S[3], M[3];
+    vec(s.ra, s.dec, s.radius * au, S);
+    vec(m.ra, m.dec, m.distance / 6378.14, M);
+    // the flattening is taken into account by stretching the z axis
+    const double f = 1 / 0.99664719;
+    S[2] *= f;
+    M[2] *= f;
+    double d[3] = {M[0] - S[0], M[1] - S[1], M[2] - S[2]};
+    const double len = std::sqrt(d[0] * d[0] + d[1] * d[1] + d[2] * d[2]);
+    for (double& x : d) x /= len;
+    const double b = M[0] * d[0] + M[1] * d[1] + M[2] * d[2];
+    const double c = M[0] * M[0] + M[1] * M[1] + M[2] * M[2] - 1;
+    const double disc = b * b - c;
+    CentralPoint p;
+    if (disc < 0) return p;
+    const double t = -b - std::sqrt(disc);
+    if (t <= 0) return p;  // the Earth lies behind the Moon as seen from the Sun only at new moon
+    double P[3] = {M[0] + t * d[0], M[1] + t * d[1], M[2] + t * d[2]};
+    P[2] /= f;
+    p.onEarth = true;
+    const double geocentric = std::atan2(P[2], std::sqrt(P[0] * P[0] + P[1] * P[1]));
+    p.latitude = std::atan(std::tan(geocentric) / (0.99664719 * 0.99664719)) / kRad;
+    double lon = std::atan2(P[1], P[0]) / kRad - ApparentSiderealTime(jd);
+    lon = std::fmod(lon + 540.0, 360.0) - 180.0;
+    p.longitude = lon;
+    return p;
+}
+
+std::vector<std::string> centralLine(double jdNewMoon, double minutes)
+{
+    std::vector<std::string> out;
+    const double step = minutes / 1440;
+    const double t0 = std::round((jdNewMoon - 0.25) / step) * step;
+    for (double t = t0; t <= jdNewMoon + 0.25; t += step) {
+        const CentralPoint p = centralLinePoint(t);
+        if (!p.onEarth) continue;
+        const double f = t + 0.5 - std::floor(t + 0.5);
+        const int mm = static_cast<int>(std::lround(f * 1440)) % 1440;
+        char buf[80];
+        std::snprintf(buf, sizeof buf, "%02d:%02d UT\t%.2f°\t%.2f°", mm / 60, mm % 60, p.latitude, p.longitude);
+        out.push_back(buf);
+    }
+    return out;
+}
+
+}  // namespace astro

@@ -284,3 +284,23 @@ TEST(Almanac, SolarEclipseAtObserver)
     // the same new moon is not seen at all from Sydney
     EXPECT_EQ(solarEclipseAtObserver(nm, -33.87, 151.21).code, 0);
 }
+
+TEST(Almanac, CentralLineOfSolarEclipse)
+{
+    // 11 August 1999: greatest eclipse at 11:03 UT at 45.07 N, 24.30 E (published circumstances;
+    // tolerance 0.3 deg). Totality crossed Munich at about 10:39 UT.
+    const double day = JulianDay(1999, 8, 11);
+    const CentralPoint g = centralLinePoint(day + (11 + 3 / 60.0) / 24);
+    ASSERT_TRUE(g.onEarth);
+    EXPECT_NEAR(g.latitude, 45.07, 0.3);
+    EXPECT_NEAR(g.longitude, 24.30, 0.3);
+    const CentralPoint m = centralLinePoint(day + (10 + 39 / 60.0) / 24);
+    EXPECT_NEAR(m.latitude, 48.1, 0.5);
+    EXPECT_NEAR(m.longitude, 11.6, 1.0);
+    // a full moon casts no shadow on the Earth
+    EXPECT_FALSE(centralLinePoint(JulianDay(1999, 7, 28) + 0.5).onEarth);
+    const double nm = jdeToJd(MoonPhaseTime(std::round(lunationIndex(day)), 0));
+    const auto lines = centralLine(nm, 10);
+    EXPECT_GT(lines.size(), 10u);
+    EXPECT_EQ(lines.size() > 0 ? lines[0].find(" UT\t") : 0, 5u);
+}
