@@ -205,6 +205,7 @@ double MoonPhaseTime(double k, int kind)
     const double Mp = rev(201.5643 + 385.81693528 * k + 0.1017438 * T2 + 1.239e-5 * T3 - 5.8e-8 * T4);
     const double F = rev(160.7108 + 390.67050274 * k - 0.0016341 * T2 - 2.27e-6 * T3 + 1.1e-8 * T4);
     const double Om = rev(124.7746 - 1.5637558 * k + 0.0020691 * T2 + 2.15e-6 * T3);
+    // periodic and planetary terms of Meeus, Astronomical Algorithms, chapter 49
     double c = 0;
     if (kind == 0 || kind == 2) {
         const bool nm = kind == 0;
@@ -285,7 +286,8 @@ double PerigeeApogeeTime(double k, bool isApogee)
     const double D = rev(171.9179 + 335.9106046 * k - 0.010025 * T2 - 1.156e-5 * T3 + 5.5e-8 * T4);
     const double M = rev(347.3477 + 27.1577721 * k - 0.0008323 * T2 - 1e-6 * T3);
     const double F = rev(316.6109 + 364.5287911 * k - 0.0125131 * T2 - 1.48e-5 * T3);
-    // rows: multiples of D, M, F; coefficient (days) and its T part
+    // rows of Meeus, Astronomical Algorithms, Table 50.A (the first 30 for perigee, 16 for apogee):
+    // multiples of D, M, F; coefficient in days and its T part
     struct Row {
         signed char d, m, f;
         double c, ct;
@@ -327,6 +329,7 @@ const char* eclipseText(EclipseKind k)
     }
 }
 
+// Meeus, Astronomical Algorithms, chapter 54
 Eclipse NextEclipse(double k, bool solar)
 {
     k = solar ? std::ceil(k - 1e-9) : std::ceil(k - 0.5 - 1e-9) + 0.5;
