@@ -80,6 +80,11 @@ Elements ElementFromVectors(double t, const double r[3], const double v[3]);
 // Elements from two positions at times ta and tb (MJD).
 Elements ElementFromTwoPositions(double ta, const double ra[3], double tb, const double rb[3]);
 
+// Planets of the series library (P15LIB, P69LIB): heliocentric ecliptic longitude and latitude
+// (degrees) and radius (AU), ecliptic and equinox of date, T in Julian centuries from J2000.
+// Keys "Merkur" .. "Pluto" without "Erde"; false for an unknown key.
+bool SeriesPlanet(const std::string& key, double T, double& l, double& b, double& r);
+
 // ---------------------------------------------------------------- observer planets (xastro)
 
 struct PlanetRecord {

@@ -304,3 +304,35 @@ TEST(Almanac, CentralLineOfSolarEclipse)
     EXPECT_GT(lines.size(), 10u);
     EXPECT_EQ(lines.size() > 0 ? lines[0].find(" UT\t") : 0, 5u);
 }
+
+TEST(SeriesLibrary, VenusMeeus32a)
+{
+    // Meeus 32.a: Venus on 1992 December 20, 0h TD, heliocentric of date from VSOP87:
+    // L = 26.11428, B = -2.62070, R = 0.724603. The series of the library are good to a few
+    // arc seconds: tolerance 0.002 deg and 2e-6 AU.
+    double l, b, r;
+    ASSERT_TRUE(SeriesPlanet("Venus", (2448976.5 - 2451545) / 36525, l, b, r));
+    EXPECT_NEAR(l, 26.11428, 0.002);
+    EXPECT_NEAR(b, -2.62070, 0.002);
+    EXPECT_NEAR(r, 0.724603, 2e-6);
+    EXPECT_FALSE(SeriesPlanet("Erde", 0, l, b, r));
+}
+
+TEST(SeriesLibrary, AllPlanetsAgreeWithTheMeanElements)
+{
+    // At J2000 the equinox of date is the equinox of J2000, so the series and the observer planets
+    // must agree within the accuracy of the mean elements: 0.3 deg; 1 deg for Uranus, Neptune and
+    // Pluto, whose mean elements lack the great inequalities; radius 1 %.
+    for (const char* key : {"Merkur", "Venus", "Mars", "Jupiter", "Saturn", "Uranus", "Neptun", "Pluto"}) {
+        double l, b, r;
+        ASSERT_TRUE(SeriesPlanet(key, 0.0, l, b, r)) << key;
+        const PlanetRecord p = PlanetSimple(key, 2451545.0);
+        double d = std::fabs(l - p.helioLongitude);
+        if (d > 180) d = 360 - d;
+        const std::string k = key;
+        const double tol = (k == "Uranus" || k == "Neptun" || k == "Pluto") ? 1.0 : 0.3;
+        EXPECT_LT(d, tol) << key << ": series " << l << ", mean elements " << p.helioLongitude;
+        EXPECT_NEAR(b, p.helioLatitude, tol) << key;
+        EXPECT_NEAR(r, p.radiusVector, 0.01 * p.radiusVector) << key;
+    }
+}
