@@ -71,3 +71,21 @@ TEST(Tables, MoonAndNutationMatchDataFiles)
     }
     EXPECT_EQ(nutationTerms[0].a, -171996);
 }
+
+TEST(Tables, PlanetSeriesDataFileIsComplete)
+{
+    // the data file holds 27 series with 454 rows; each series names its row count implicitly
+    const auto r = rows("planets_series_mp.txt");
+    int series = 0, terms = 0, anomalies = 0;
+    for (const auto& f : r) {
+        if (f[0] == "S") ++series;
+        else if (f[0] == "A") ++anomalies;
+        else {
+            ++terms;
+            EXPECT_EQ(f.size(), 9u);
+        }
+    }
+    EXPECT_EQ(series, 27);
+    EXPECT_EQ(terms, 454);
+    EXPECT_EQ(anomalies, 34);
+}
