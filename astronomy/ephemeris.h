@@ -82,7 +82,8 @@ Elements ElementFromTwoPositions(double ta, const double ra[3], double tb, const
 
 // Planets of the series library (P15LIB, P69LIB): heliocentric ecliptic longitude and latitude
 // (degrees) and radius (AU), ecliptic and equinox of date, T in Julian centuries from J2000.
-// Keys "Merkur" .. "Pluto" without "Erde"; false for an unknown key.
+// Keys "Merkur" .. "Pluto" without "Erde"; "Sonne" gives the geocentric Sun (SUNLIB); false for an
+// unknown key.
 bool SeriesPlanet(const std::string& key, double T, double& l, double& b, double& r);
 
 // ---------------------------------------------------------------- observer planets (xastro)

@@ -75,7 +75,21 @@ bool SeriesPlanet(const std::string& key, double T, double& lOut, double& bOut, 
     };
     auto sinTurns = [](double a, double b, double T2) { return std::sin(kPi2 * (a + b * T2)); };
     double l = 0, b = 0, r = 0;
-    if (key == "Merkur") {
+    if (key == "Sonne") {
+        // the Earth-Moon barycentre against the Earth's centre, and the long-period terms
+        const double D = kPi2 * frac(0.8274 + 1236.8531 * T), A = kPi2 * frac(0.3749 + 1325.5524 * T);
+        const double U = kPi2 * frac(0.2591 + 1342.2278 * T);
+        dl += 6.45 * std::sin(D) - 0.42 * std::sin(D - A) + 0.18 * std::sin(D + A) + 0.17 * std::sin(D - M[3]) -
+              0.06 * std::sin(D + M[3]);
+        dr += 30.76 * std::cos(D) - 3.06 * std::cos(D - A) + 0.85 * std::cos(D + A) - 0.58 * std::cos(D + M[3]) +
+              0.57 * std::cos(D - M[3]);
+        db += 0.576 * std::sin(U);
+        dl += 6.40 * sinTurns(0.6983, 0.0561, T) + 1.87 * sinTurns(0.5764, 0.4174, T) +
+              0.27 * sinTurns(0.4189, 0.3306, T) + 0.20 * sinTurns(0.3581, 2.4814, T);
+        l = kPi2 * frac(0.7859453 + M[3] / kPi2 + ((6191.2 + 1.1 * T) * T + dl) / 1296.0e3);
+        r = 1.0001398 - 0.0000007 * T + dr * 1.0e-6;
+        b = db / kArcs;
+    } else if (key == "Merkur") {
         dl += 2.8 + 3.2 * T;
         l = kPi2 * frac(0.2151379 + M[1] / kPi2 + ((5601.7 + 1.1 * T) * T + dl) / 1296.0e3);
         r = 0.3952829 + 0.0000016 * T + dr * 1.0e-6;

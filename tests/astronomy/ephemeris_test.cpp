@@ -336,3 +336,14 @@ TEST(SeriesLibrary, AllPlanetsAgreeWithTheMeanElements)
         EXPECT_NEAR(r, p.radiusVector, 0.01 * p.radiusVector) << key;
     }
 }
+
+TEST(SeriesLibrary, SunMeeus25b)
+{
+    // Meeus 25.b: 1992 October 13.0 TD, geometric longitude of date (FK5) 199.907347 deg,
+    // R = 0.99760775 AU; the series of the library, without aberration: tolerance 3" and 1e-5 AU
+    double l, b, r;
+    ASSERT_TRUE(SeriesPlanet("Sonne", (2448908.5 - 2451545) / 36525, l, b, r));
+    EXPECT_NEAR(l, 199.907347, 3.0 / 3600);
+    EXPECT_NEAR(r, 0.99760775, 1e-5);
+    EXPECT_LT(std::fabs(b), 2.0 / 3600);
+}
