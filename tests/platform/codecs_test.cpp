@@ -1,0 +1,270 @@
+// Every encoder is read back by Qt's own readers (independent code) and by our decoders.
+#include "gui_app.h"
+#include "platform/codecs.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QImage>
+#include <QImageReader>
+#include <QImageWriter>
+
+#include <gif_lib.h>
+
+#include <cstdlib>
+#include <cstring>
+
+using namespace platform;
+
+namespace {
+
+// Six solid blocks of 10 x 10 in a 30 x 20 picture, colours chosen from the VGA palette so the
+// 16-colour path keeps them exactly.
+const TColor kBlocks[6] = {clRed, rgb(0, 255, 0), clBlue, clYellow, clWhite, rgb(0, 128, 128)};
+
+Picture blockPicture()
+{
+    Picture pic(30, 20);
+    for (int y = 0; y < 20; ++y)
+        for (int x = 0; x < 30; ++x)
+            pic.setPixel(x, y, kBlocks[(y / 10) * 3 + x / 10]);
+    return pic;
+}
+
+QImage readWithQt(const std::string& bytes, const char* format)
+{
+    QByteArray data(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    QBuffer buf(&data);
+    buf.open(QIODevice::ReadOnly);
+    QImageReader reader(&buf, format);
+    QImage img = reader.read();
+    EXPECT_FALSE(img.isNull()) << format << ": " << reader.errorString().toStdString();
+    return img.convertToFormat(QImage::Format_RGB32);
+}
+
+int channelDistance(TColor a, TColor b)
+{
+    return std::max({std::abs(redOf(a) - redOf(b)), std::abs(greenOf(a) - greenOf(b)), std::abs(blueOf(a) - blueOf(b))});
+}
+
+// Samples the centre of each block (JPEG blurs only the edges).
+void expectBlocks(const QImage& img, int tolerance, const char* what)
+{
+    ASSERT_EQ(img.width(), 30) << what;
+    ASSERT_EQ(img.height(), 20) << what;
+    for (int b = 0; b < 6; ++b) {
+        const int x = (b % 3) * 10 + 5, y = (b / 3) * 10 + 5;
+        const QColor c = img.pixelColor(x, y);
+        const TColor got = rgb(c.red(), c.green(), c.blue());
+        EXPECT_LE(channelDistance(got, kBlocks[b]), tolerance)
+            << what << " block " << b << ": expected " << std::hex << kBlocks[b] << ", got " << got;
+    }
+}
+
+void expectBlocks(const Picture& pic, int tolerance, const char* what)
+{
+    expectBlocks(pic.image(), tolerance, what);
+}
+
+}  // namespace
+
+TEST(Codecs, EveryEncoderReadBackByQtAndByOurDecoders)
+{
+    ensureGuiApp();
+    const Picture pic = blockPicture();
+    struct Case { const char* name; std::string bytes; const char* qtFormat; int tolerance; };
+    const Case cases[] = {
+        {"bmp24", encodeBmp24(pic), "bmp", 0}, {"bmp16", encodeBmp16(pic), "bmp", 0},
+        {"jpeg", encodeJpeg(pic, 100), "jpeg", 6}, {"gif", encodeGif(pic), "gif", 0},
+        {"png", encodePng(pic), "png", 0},
+    };
+    for (const Case& c : cases) {
+        expectBlocks(readWithQt(c.bytes, c.qtFormat), c.tolerance, c.name);
+        expectBlocks(decodePicture(c.bytes, ""), c.tolerance, c.name);
+    }
+    // The headers say what they promise.
+    EXPECT_EQ(cases[0].bytes.substr(0, 2), "BM");
+    EXPECT_EQ(static_cast<unsigned char>(cases[1].bytes[28]), 4);  // 4 bits a pixel
+    EXPECT_EQ(cases[1].bytes.size(), 14u + 40 + 64 + 16 * 20);    // 30 pixels -> 16-byte rows
+    EXPECT_EQ(cases[3].bytes.substr(0, 4), "GIF8");
+}
+
+TEST(Codecs, SixteenColoursTakeTheNearestPaletteEntry)
+{
+    Picture pic(4, 1);
+    pic.setPixel(0, 0, rgb(250, 10, 5));     // near red
+    pic.setPixel(1, 0, rgb(0, 150, 0));      // near dark green
+    pic.setPixel(2, 0, rgb(200, 190, 185));  // near silver
+    pic.setPixel(3, 0, rgb(20, 20, 20));     // near black
+    const Picture back = decodeBmp(encodeBmp16(pic));
+    EXPECT_EQ(back.pixel(0, 0), clRed);
+    EXPECT_EQ(back.pixel(1, 0), rgb(0, 128, 0));
+    EXPECT_EQ(back.pixel(2, 0), clSilver);
+    EXPECT_EQ(back.pixel(3, 0), clBlack);
+}
+
+TEST(Codecs, GifOfManyColoursIsQuantised)
+{
+    ensureGuiApp();
+    Picture pic(64, 64);
+    for (int y = 0; y < 64; ++y)
+        for (int x = 0; x < 64; ++x)
+            pic.setPixel(x, y, rgb(x * 4, y * 4, (x + y) * 2));  // 4096 colours
+    const std::string gif = encodeGif(pic);
+    const QImage qt = readWithQt(gif, "gif");
+    const Picture ours = decodeGif(gif);
+    ASSERT_EQ(qt.size(), QSize(64, 64));
+    int worst = 0, sum = 0, count = 0;
+    for (int y = 0; y < 64; y += 7)
+        for (int x = 0; x < 64; x += 7) {
+            const QColor c = qt.pixelColor(x, y);
+            const int d = channelDistance(rgb(c.red(), c.green(), c.blue()), pic.pixel(x, y));
+            worst = std::max(worst, d);
+            sum += d;
+            ++count;
+            EXPECT_EQ(ours.pixel(x, y), rgb(c.red(), c.green(), c.blue())) << x << "," << y;
+        }
+    // giflib's median cut works on 5 bits a channel, so single pixels may be off by a few steps.
+    EXPECT_LE(worst, 40) << "median cut to 256 colours of a smooth gradient";
+    EXPECT_LE(sum / count, 12) << "mean channel error";
+}
+
+TEST(Codecs, ForeignFilesDecode)
+{
+    ensureGuiApp();
+    // Written by Qt's own writers: JPEG, 32-bit BMP and 8-bit palette BMP.
+    QImage img(30, 20, QImage::Format_RGB32);
+    for (int y = 0; y < 20; ++y)
+        for (int x = 0; x < 30; ++x) {
+            const TColor c = kBlocks[(y / 10) * 3 + x / 10];
+            img.setPixel(x, y, qRgb(redOf(c), greenOf(c), blueOf(c)));
+        }
+    auto write = [](const QImage& i, const char* fmt) {
+        QByteArray out;
+        QBuffer buf(&out);
+        buf.open(QIODevice::WriteOnly);
+        QImageWriter w(&buf, fmt);
+        w.setQuality(95);
+        EXPECT_TRUE(w.write(i)) << fmt;
+        return std::string(out.constData(), static_cast<size_t>(out.size()));
+    };
+    expectBlocks(decodeJpeg(write(img, "jpeg")), 8, "Qt JPEG");
+    expectBlocks(decodeBmp(write(img, "bmp")), 0, "Qt BMP");
+    expectBlocks(decodeBmp(write(img.convertToFormat(QImage::Format_Indexed8), "bmp")), 0, "Qt 8-bit BMP");
+    expectBlocks(decodePng(write(img, "png")), 0, "Qt PNG");
+
+    // A hand-made top-down 1-bit BMP of 3 x 2: black white black / white black white.
+    std::string bmp = "BM";
+    auto p32 = [&bmp](std::uint32_t v) { for (int i = 0; i < 4; ++i) bmp.push_back(static_cast<char>(v >> (8 * i))); };
+    auto p16 = [&bmp](std::uint32_t v) { for (int i = 0; i < 2; ++i) bmp.push_back(static_cast<char>(v >> (8 * i))); };
+    p32(14 + 40 + 8 + 8); p32(0); p32(14 + 40 + 8);
+    p32(40); p32(3); p32(static_cast<std::uint32_t>(-2)); p16(1); p16(1); p32(0); p32(8); p32(0); p32(0); p32(2); p32(0);
+    p32(0x000000); p32(0xFFFFFF);
+    bmp += std::string("\x40\0\0\0", 4);  // 010 -> black white black
+    bmp += std::string("\xA0\0\0\0", 4);  // 101 -> white black white
+    const Picture tiny = decodeBmp(bmp);
+    ASSERT_EQ(tiny.width(), 3);
+    ASSERT_EQ(tiny.height(), 2);
+    EXPECT_EQ(tiny.pixel(0, 0), clBlack);
+    EXPECT_EQ(tiny.pixel(1, 0), clWhite);
+    EXPECT_EQ(tiny.pixel(0, 1), clWhite);
+    EXPECT_EQ(tiny.pixel(1, 1), clBlack);
+}
+
+TEST(Codecs, DamagedDataIsRefused)
+{
+    const std::string png = encodePng(blockPicture());
+    EXPECT_THROW(decodePng(png.substr(0, png.size() / 2)), ResourceError);
+    EXPECT_THROW(decodeJpeg("\xFF\xD8\xFF\xE0 kaputt"), ResourceError);
+    EXPECT_THROW(decodeGif("GIF89a"), ResourceError);
+    EXPECT_THROW(decodeBmp("BM1234"), ResourceError);
+    const std::string bmp = encodeBmp24(blockPicture());
+    EXPECT_THROW(decodeBmp(bmp.substr(0, bmp.size() - 50)), ResourceError);
+    EXPECT_THROW(decodePicture("nichts", "GIF"), ResourceError);
+    EXPECT_THROW(encodePng(Picture()), ResourceError);
+}
+
+namespace {
+
+int appendToString(GifFileType* gif, const GifByteType* buf, int len)
+{
+    static_cast<std::string*>(gif->UserData)->append(reinterpret_cast<const char*>(buf), static_cast<size_t>(len));
+    return len;
+}
+
+// An animation of 20 x 10 on a white background (palette 0 white, 1 red, 2 blue, 3 green):
+// frame 0 all red (100 ms, keep), frame 1 a blue 5 x 5 at (2, 2) (200 ms, restore background),
+// frame 2 a green 3 x 3 at (10, 5) whose centre is transparent (300 ms, keep).
+std::string makeAnimation()
+{
+    std::string out;
+    int error = 0;
+    GifFileType* gif = EGifOpen(&out, appendToString, &error);
+    GifColorType colors[4] = {{255, 255, 255}, {255, 0, 0}, {0, 0, 255}, {0, 160, 0}};
+    gif->SWidth = 20;
+    gif->SHeight = 10;
+    gif->SColorResolution = 2;
+    gif->SBackGroundColor = 0;
+    gif->SColorMap = GifMakeMapObject(4, colors);
+    struct F { int l, t, w, h, color, delay, disposal; bool hole; };
+    const F frames[] = {{0, 0, 20, 10, 1, 10, DISPOSE_DO_NOT, false},
+                        {2, 2, 5, 5, 2, 20, DISPOSE_BACKGROUND, false},
+                        {10, 5, 3, 3, 3, 30, DISPOSE_DO_NOT, true}};
+    for (const F& f : frames) {
+        SavedImage* img = GifMakeSavedImage(gif, nullptr);
+        img->ImageDesc = {f.l, f.t, f.w, f.h, false, nullptr};
+        img->RasterBits = static_cast<GifByteType*>(std::malloc(static_cast<size_t>(f.w * f.h)));
+        std::memset(img->RasterBits, f.color, static_cast<size_t>(f.w * f.h));
+        GraphicsControlBlock gcb{f.disposal, false, f.delay, NO_TRANSPARENT_COLOR};
+        if (f.hole) {
+            gcb.TransparentColor = 0;
+            img->RasterBits[4] = 0;
+        }
+        GifByteType ext[4];
+        const size_t len = EGifGCBToExtension(&gcb, ext);
+        GifAddExtensionBlock(&img->ExtensionBlockCount, &img->ExtensionBlocks, GRAPHICS_EXT_FUNC_CODE,
+                             static_cast<unsigned>(len), ext);
+    }
+    EGifSpew(gif);  // writes and closes
+    return out;
+}
+
+}  // namespace
+
+TEST(Codecs, AnimatedGifFramesDelaysAndDisposal)
+{
+    ensureGuiApp();
+    const std::string bytes = makeAnimation();
+    const auto frames = decodeAnimatedGif(bytes);
+    ASSERT_EQ(frames.size(), 3u);
+    EXPECT_EQ(frames[0].delayMs, 100);
+    EXPECT_EQ(frames[1].delayMs, 200);
+    EXPECT_EQ(frames[2].delayMs, 300);
+    EXPECT_EQ(frames[1].disposal, 2);
+    for (const auto& f : frames) {
+        EXPECT_EQ(f.picture.width(), 20);
+        EXPECT_EQ(f.picture.height(), 10);
+    }
+    EXPECT_EQ(frames[0].picture.pixel(4, 4), clRed);
+    EXPECT_EQ(frames[1].picture.pixel(4, 4), clBlue);   // drawn over frame 0
+    EXPECT_EQ(frames[1].picture.pixel(15, 1), clRed);   // frame 0 kept around it
+    EXPECT_EQ(frames[2].picture.pixel(4, 4), clWhite);  // frame 1 went back to the background
+    EXPECT_EQ(frames[2].picture.pixel(15, 1), clRed);
+    EXPECT_EQ(frames[2].picture.pixel(10, 5), rgb(0, 160, 0));
+    EXPECT_EQ(frames[2].picture.pixel(11, 6), clRed);  // transparent centre shows what lay below
+    // A single picture is the first frame.
+    EXPECT_EQ(decodeGif(bytes).pixel(4, 4), clRed);
+
+    // Qt's reader (independent code) sees the same frames where no disposal is involved.
+    QByteArray data(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    QBuffer buf(&data);
+    buf.open(QIODevice::ReadOnly);
+    QImageReader reader(&buf, "gif");
+    EXPECT_EQ(reader.imageCount(), 3);
+    QImage qt;
+    ASSERT_TRUE(reader.read(&qt));
+    EXPECT_EQ(QColor(qt.pixel(4, 4)), QColor(255, 0, 0));
+    EXPECT_EQ(reader.nextImageDelay(), 100);  // Qt reports the delay of the frame just read
+    ASSERT_TRUE(reader.read(&qt));
+    EXPECT_EQ(QColor(qt.pixel(4, 4)), QColor(0, 0, 255));
+}
