@@ -21,7 +21,7 @@ std::string encodeBmp24(const Picture& pic);
 // 4 bits a pixel with the 16 standard colours of the VGA palette, nearest colour.
 std::string encodeBmp16(const Picture& pic);
 std::string encodeJpeg(const Picture& pic, int quality = 100);
-// Exact palette when the picture has at most 256 colours, otherwise median cut.
+// Exact palette when the picture has at most 256 colours, otherwise our median cut.
 std::string encodeGif(const Picture& pic);
 std::string encodePng(const Picture& pic);
 

@@ -3,6 +3,8 @@
 #include "platform/codecs.h"
 #include "platform/textlist.h"
 
+#include <algorithm>
+#include <cmath>
 #include <csetjmp>
 #include <cstdlib>
 #include <cstring>
@@ -219,6 +221,121 @@ struct ColorMapFree {
 
 }  // namespace
 
+namespace {
+
+struct ColorCount {
+    QRgb color;
+    int count;
+};
+
+int channel(QRgb c, int ch) { return ch == 0 ? qRed(c) : ch == 1 ? qGreen(c) : qBlue(c); }
+
+// Median cut on the histogram at full 8 bits a channel. A box is split at the weighted median of
+// its widest channel; its colour is the weighted mean, or the colour that holds at least half of
+// its pixels, so the ground of a drawing keeps its exact white.
+std::vector<QRgb> medianCut(const std::unordered_map<QRgb, int>& histogram, int wanted)
+{
+    std::vector<ColorCount> all;
+    all.reserve(histogram.size());
+    for (const auto& [c, n] : histogram)
+        all.push_back({c, n});
+    struct Box {
+        size_t begin, end;  // range in `all`
+        int widest = 0, range = 0;
+        long long pixels = 0;
+    };
+    auto measure = [&all](Box& b) {
+        int lo[3] = {255, 255, 255}, hi[3] = {0, 0, 0};
+        b.pixels = 0;
+        for (size_t i = b.begin; i < b.end; ++i) {
+            for (int ch = 0; ch < 3; ++ch) {
+                lo[ch] = std::min(lo[ch], channel(all[i].color, ch));
+                hi[ch] = std::max(hi[ch], channel(all[i].color, ch));
+            }
+            b.pixels += all[i].count;
+        }
+        b.range = -1;
+        for (int ch = 0; ch < 3; ++ch)
+            if (hi[ch] - lo[ch] > b.range) {
+                b.range = hi[ch] - lo[ch];
+                b.widest = ch;
+            }
+    };
+    std::vector<Box> boxes(1, Box{0, all.size()});
+    measure(boxes[0]);
+    while (static_cast<int>(boxes.size()) < wanted) {
+        // Split the box whose spread weighs most; single colours cannot be split.
+        int pick = -1;
+        double best = 0;
+        for (size_t i = 0; i < boxes.size(); ++i) {
+            if (boxes[i].end - boxes[i].begin < 2)
+                continue;
+            const double score = static_cast<double>(boxes[i].range) * std::sqrt(static_cast<double>(boxes[i].pixels));
+            if (score > best) {
+                best = score;
+                pick = static_cast<int>(i);
+            }
+        }
+        if (pick < 0)
+            break;
+        Box& b = boxes[static_cast<size_t>(pick)];
+        const int ch = b.widest;
+        std::sort(all.begin() + static_cast<long>(b.begin), all.begin() + static_cast<long>(b.end),
+                  [ch](const ColorCount& x, const ColorCount& y) { return channel(x.color, ch) < channel(y.color, ch); });
+        long long half = b.pixels / 2, run = 0;
+        size_t cut = b.begin + 1;
+        for (size_t i = b.begin; i < b.end - 1; ++i) {
+            run += all[i].count;
+            cut = i + 1;
+            if (run >= half)
+                break;
+        }
+        Box second{cut, b.end};
+        b.end = cut;
+        measure(b);
+        measure(second);
+        boxes.push_back(second);
+    }
+    std::vector<QRgb> palette;
+    for (const Box& b : boxes) {
+        double sum[3] = {0, 0, 0};
+        QRgb dominant = all[b.begin].color;
+        int dominantCount = 0;
+        for (size_t i = b.begin; i < b.end; ++i) {
+            for (int ch = 0; ch < 3; ++ch)
+                sum[ch] += static_cast<double>(channel(all[i].color, ch)) * all[i].count;
+            if (all[i].count > dominantCount) {
+                dominantCount = all[i].count;
+                dominant = all[i].color;
+            }
+        }
+        if (2LL * dominantCount >= b.pixels)
+            palette.push_back(dominant);
+        else
+            palette.push_back(qRgb(static_cast<int>(std::lround(sum[0] / b.pixels)),
+                                   static_cast<int>(std::lround(sum[1] / b.pixels)),
+                                   static_cast<int>(std::lround(sum[2] / b.pixels))) & 0xFFFFFF);
+    }
+    return palette;
+}
+
+int nearestEntry(const std::vector<QRgb>& palette, QRgb c)
+{
+    int best = 0, bestDist = 1 << 30;
+    for (size_t i = 0; i < palette.size(); ++i) {
+        const int dr = qRed(c) - qRed(palette[i]), dg = qGreen(c) - qGreen(palette[i]),
+                  db = qBlue(c) - qBlue(palette[i]);
+        const int d = dr * dr + dg * dg + db * db;
+        if (d < bestDist) {
+            bestDist = d;
+            best = static_cast<int>(i);
+        }
+    }
+    return best;
+}
+
+}  // namespace
+
 std::string encodeGif(const Picture& pic)
 {
     checkSize(pic);
@@ -247,23 +364,28 @@ std::string encodeGif(const Picture& pic)
         }
     }
     if (!exact) {
-        // Median cut over the three channels.
-        std::vector<GifByteType> r(count), g(count), b(count);
+        std::unordered_map<QRgb, int> histogram;
+        for (int y = 0; y < h; ++y) {
+            const std::uint32_t* in = pic.scanLine(y);
+            for (int x = 0; x < w; ++x)
+                ++histogram[in[x] & 0xFFFFFF];
+        }
+        const std::vector<QRgb> palette = medianCut(histogram, 256);
+        colors.clear();
+        for (QRgb p : palette)
+            colors.push_back({static_cast<GifByteType>(qRed(p)), static_cast<GifByteType>(qGreen(p)),
+                              static_cast<GifByteType>(qBlue(p))});
+        std::unordered_map<QRgb, int> nearest;
         for (int y = 0; y < h; ++y) {
             const std::uint32_t* in = pic.scanLine(y);
             for (int x = 0; x < w; ++x) {
-                const size_t i = static_cast<size_t>(y) * w + x;
-                r[i] = static_cast<GifByteType>(qRed(in[x]));
-                g[i] = static_cast<GifByteType>(qGreen(in[x]));
-                b[i] = static_cast<GifByteType>(qBlue(in[x]));
+                const QRgb p = in[x] & 0xFFFFFF;
+                auto it = nearest.find(p);
+                if (it == nearest.end())
+                    it = nearest.emplace(p, nearestEntry(palette, p)).first;
+                indices[static_cast<size_t>(y) * w + x] = static_cast<GifByteType>(it->second);
             }
         }
-        colors.assign(256, GifColorType{0, 0, 0});
-        int size = 256;
-        if (GifQuantizeBuffer(static_cast<unsigned>(w), static_cast<unsigned>(h), &size, r.data(), g.data(),
-                              b.data(), indices.data(), colors.data()) != GIF_OK)
-            throw ResourceError("GIF: Farben können nicht reduziert werden");
-        colors.resize(256);
     }
     // The colour table has a power-of-two size of at least 2.
     int bits = 1;

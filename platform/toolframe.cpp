@@ -299,7 +299,15 @@ std::string paintSvg(int width, int height, const PaintRoutine& paint)
         canvas.setFontName("Verdana");
         paint(canvas, width, height);
     }
-    return std::string(buffer.data().constData(), static_cast<size_t>(buffer.data().size()));
+    std::string svg(buffer.data().constData(), static_cast<size_t>(buffer.data().size()));
+    // The generator states the size in millimetres, which readers turn back into pixels at
+    // differing resolutions; plain pixel sizes keep the picture at width x height everywhere.
+    const size_t head = svg.find("<svg ");
+    const size_t end = svg.find("viewBox", head);
+    if (head != std::string::npos && end != std::string::npos)
+        svg.replace(head, end - head,
+                    "<svg width=\"" + std::to_string(width) + "\" height=\"" + std::to_string(height) + "\"\n ");
+    return svg;
 }
 
 void writePictureFile(const std::string& path, PictureFormat format, int width, int height,

@@ -124,9 +124,8 @@ TEST(Codecs, GifOfManyColoursIsQuantised)
             ++count;
             EXPECT_EQ(ours.pixel(x, y), rgb(c.red(), c.green(), c.blue())) << x << "," << y;
         }
-    // giflib's median cut works on 5 bits a channel, so single pixels may be off by a few steps.
-    EXPECT_LE(worst, 40) << "median cut to 256 colours of a smooth gradient";
-    EXPECT_LE(sum / count, 12) << "mean channel error";
+    EXPECT_LE(worst, 20) << "median cut to 256 colours of a smooth gradient";
+    EXPECT_LE(sum / count, 8) << "mean channel error";
 }
 
 TEST(Codecs, ForeignFilesDecode)
