@@ -1,5 +1,6 @@
 #include "kernel/specfun.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kernel {
@@ -284,7 +285,9 @@ double BesselIn(int n, double x)
     // Downward recurrence (Miller) normalised by I0; upward recurrence is unstable for I.
     constexpr double big = 10000000000.0, small = 1.0 / big;
     const double ax = std::fabs(x);
-    const int start = 2 * (n + static_cast<int>(std::sqrt(40.0 * n)));
+    // The start must lie well above both n and x, or the unwanted solution is not damped enough.
+    const int top = std::max(n, static_cast<int>(ax));
+    const int start = 2 * (top + static_cast<int>(std::sqrt(40.0 * top)));
     double ip = 0, i = 1, ans = 0;
     for (int k = start; k > 0; --k) {
         const double im = ip + 2.0 * k / ax * i;

@@ -34,6 +34,49 @@ int maskedChannel(std::uint32_t v, std::uint32_t mask)
     return static_cast<int>(((v & mask) >> shift) * 255 / max);
 }
 
+// Run-length coded rows (RLE8, RLE4), stored from the bottom row up; the result holds palette
+// indices in file row order. Skipped pixels stay at index 0.
+std::vector<unsigned char> decodeRle(const unsigned char* p, size_t n, int width, int height, bool four)
+{
+    std::vector<unsigned char> out(static_cast<size_t>(width) * height, 0);
+    int x = 0, y = 0;
+    size_t i = 0;
+    auto put = [&](int value) {
+        if (x < width && y < height)
+            out[static_cast<size_t>(y) * width + x] = static_cast<unsigned char>(value);
+        ++x;
+    };
+    while (i + 1 < n) {
+        const int count = p[i], value = p[i + 1];
+        i += 2;
+        if (count > 0) {
+            for (int k = 0; k < count; ++k)
+                put(four ? ((k & 1) ? value & 0x0F : value >> 4) : value);
+            continue;
+        }
+        if (value == 0) {  // end of line
+            x = 0;
+            ++y;
+        } else if (value == 1) {  // end of picture
+            break;
+        } else if (value == 2) {  // delta
+            if (i + 1 >= n)
+                break;
+            x += p[i];
+            y += p[i + 1];
+            i += 2;
+        } else {  // absolute run of `value` pixels, padded to 16 bits
+            const size_t bytes = four ? (static_cast<size_t>(value) + 1) / 2 : static_cast<size_t>(value);
+            if (i + bytes > n)
+                throw ResourceError("BMP-Bilddaten sind zu kurz");
+            for (int k = 0; k < value; ++k)
+                put(four ? ((k & 1) ? p[i + k / 2] & 0x0F : p[i + k / 2] >> 4) : p[i + k]);
+            i += (bytes + 1) & ~static_cast<size_t>(1);
+        }
+    }
+    return out;
+}
+
 }  // namespace
 
 std::string sniffPictureType(const std::string& b)
@@ -95,8 +138,9 @@ Picture decodeBmp(const std::string& bytes)
         height = -height;
     if (width <= 0 || height <= 0 || width > 30000 || height > 30000)
         throw ResourceError("BMP-Größe ungültig");
-    if (compression != 0 && compression != 3)
-        throw ResourceError("Komprimierte BMP-Dateien werden nicht unterstützt");
+    const bool rle = (compression == 1 && bits == 8) || (compression == 2 && bits == 4);
+    if (compression != 0 && compression != 3 && !rle)
+        throw ResourceError("BMP-Kompression nicht unterstützt");
     if (bits != 1 && bits != 4 && bits != 8 && bits != 16 && bits != 24 && bits != 32)
         throw ResourceError("BMP-Farbtiefe nicht unterstützt");
     if (bits == 16 && compression == 0) {
@@ -120,6 +164,21 @@ Picture decodeBmp(const std::string& bytes)
             const unsigned char* p = d + paletteOffset + i * paletteEntrySize;
             palette[i] = rgb(p[2], p[1], p[0]);
         }
+    }
+    if (rle) {
+        if (dataOffset > n)
+            throw ResourceError("BMP-Bilddaten sind zu kurz");
+        const std::vector<unsigned char> idx = decodeRle(d + dataOffset, n - dataOffset, width, height, bits == 4);
+        Picture pic(width, height);
+        for (int y = 0; y < height; ++y) {
+            const unsigned char* row = idx.data() + static_cast<size_t>(bottomUp ? height - 1 - y : y) * width;
+            std::uint32_t* out = pic.scanLine(y);
+            for (int x = 0; x < width; ++x) {
+                const TColor c = palette[row[x]];
+                out[x] = qRgb(redOf(c), greenOf(c), blueOf(c));
+            }
+        }
+        return pic;
     }
     const size_t stride = ((static_cast<size_t>(width) * bits + 31) / 32) * 4;
     if (dataOffset > n || stride * height > n - dataOffset)

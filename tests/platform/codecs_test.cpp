@@ -170,6 +170,47 @@ TEST(Codecs, ForeignFilesDecode)
     EXPECT_EQ(tiny.pixel(1, 1), clBlack);
 }
 
+namespace {
+
+// A bottom-up BMP with a three-colour palette (black, red, blue) and run-length data.
+std::string rleBmp(int width, int height, int bits, int compression, const std::string& data)
+{
+    std::string b = "BM";
+    auto p32 = [&b](std::uint32_t v) { for (int i = 0; i < 4; ++i) b.push_back(static_cast<char>(v >> (8 * i))); };
+    auto p16 = [&b](std::uint32_t v) { for (int i = 0; i < 2; ++i) b.push_back(static_cast<char>(v >> (8 * i))); };
+    const std::uint32_t offset = 14 + 40 + 3 * 4;
+    p32(offset + static_cast<std::uint32_t>(data.size())); p32(0); p32(offset);
+    p32(40); p32(static_cast<std::uint32_t>(width)); p32(static_cast<std::uint32_t>(height)); p16(1);
+    p16(static_cast<std::uint32_t>(bits)); p32(static_cast<std::uint32_t>(compression));
+    p32(static_cast<std::uint32_t>(data.size())); p32(0); p32(0); p32(3); p32(0);
+    p32(0x000000); p32(0xFF0000); p32(0x0000FF);  // BGRA words: black, red, blue
+    return b + data;
+}
+
+}  // namespace
+
+TEST(Codecs, RunLengthBmp)
+{
+    ensureGuiApp();
+    // RLE8, 4 x 2. Bottom row: a run of four reds. Top row: an absolute run blue black blue
+    // (padded), then one red; end of picture.
+    const std::string rle8 = rleBmp(4, 2, 8, 1, std::string("\x04\x01\x00\x00\x00\x03\x02\x00\x02\x00\x01\x01\x00\x01", 14));
+    const Picture a = decodeBmp(rle8);
+    const TColor top[4] = {clBlue, clBlack, clBlue, clRed};
+    QImage qt;
+    ASSERT_TRUE(qt.loadFromData(reinterpret_cast<const uchar*>(rle8.data()), static_cast<int>(rle8.size()), "BMP"));
+    for (int x = 0; x < 4; ++x) {
+        EXPECT_EQ(a.pixel(x, 0), top[x]) << x;
+        EXPECT_EQ(a.pixel(x, 1), clRed) << x;
+        EXPECT_EQ(a.pixel(x, 0), rgb(qRed(qt.pixel(x, 0)), qGreen(qt.pixel(x, 0)), qBlue(qt.pixel(x, 0)))) << x;
+    }
+    // RLE4, 5 x 1: a run of five alternating red/blue nibbles.
+    const Picture b = decodeBmp(rleBmp(5, 1, 4, 2, std::string("\x05\x12\x00\x01", 4)));
+    const TColor row[5] = {clRed, clBlue, clRed, clBlue, clRed};
+    for (int x = 0; x < 5; ++x)
+        EXPECT_EQ(b.pixel(x, 0), row[x]) << x;
+}
+
 TEST(Codecs, DamagedDataIsRefused)
 {
     const std::string png = encodePng(blockPicture());
@@ -266,4 +307,35 @@ TEST(Codecs, AnimatedGifFramesDelaysAndDisposal)
     EXPECT_EQ(reader.nextImageDelay(), 100);  // Qt reports the delay of the frame just read
     ASSERT_TRUE(reader.read(&qt));
     EXPECT_EQ(QColor(qt.pixel(4, 4)), QColor(0, 0, 255));
+}
+
+TEST(Codecs, InterlacedGifRowsInPictureOrder)
+{
+    ensureGuiApp();
+    // 4 x 16, row y painted in palette entry y, written in the four interlace passes.
+    std::string out;
+    int error = 0;
+    GifFileType* gif = EGifOpen(&out, appendToString, &error);
+    GifColorType colors[16];
+    for (int i = 0; i < 16; ++i)
+        colors[i] = {static_cast<GifByteType>(i * 16), static_cast<GifByteType>(255 - i * 16), 0};
+    ColorMapObject* map = GifMakeMapObject(16, colors);
+    EGifPutScreenDesc(gif, 4, 16, 4, 0, map);
+    EGifPutImageDesc(gif, 0, 0, 4, 16, true, nullptr);
+    const int passes[4][2] = {{0, 8}, {4, 8}, {2, 4}, {1, 2}};
+    for (const auto& pass : passes)
+        for (int y = pass[0]; y < 16; y += pass[1]) {
+            GifByteType line[4] = {static_cast<GifByteType>(y), static_cast<GifByteType>(y),
+                                   static_cast<GifByteType>(y), static_cast<GifByteType>(y)};
+            EGifPutLine(gif, line, 4);
+        }
+    EGifCloseFile(gif, &error);
+    GifFreeMapObject(map);
+    const Picture ours = decodeGif(out);
+    QImage qt;
+    ASSERT_TRUE(qt.loadFromData(reinterpret_cast<const uchar*>(out.data()), static_cast<int>(out.size())));
+    for (int y = 0; y < 16; ++y) {
+        EXPECT_EQ(redOf(ours.pixel(2, y)), y * 16) << "row " << y;
+        EXPECT_EQ(qRed(qt.pixel(2, y)), y * 16) << "row " << y;
+    }
 }
