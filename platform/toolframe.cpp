@@ -477,6 +477,58 @@ bool LoadTextResource(StringList& list, const std::string& name)
     }
 }
 
+namespace {
+
+std::string& pictureDirectoryStore()
+{
+    static std::string dir;
+    return dir;
+}
+
+std::string pictureContainerPath(const std::string& container)
+{
+    return pictureDirectory() + "/" + container + ".dll";
+}
+
+}  // namespace
+
+void setPictureDirectory(const std::string& dir)
+{
+    pictureDirectoryStore() = dir;
+}
+
+std::string pictureDirectory()
+{
+    if (!pictureDirectoryStore().empty())
+        return pictureDirectoryStore();
+    const QString dir = QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QStringLiteral(".");
+    return (dir + QStringLiteral("/bmp")).toStdString();
+}
+
+bool LoadPictureResource(Picture& picture, const std::string& container, const std::string& type,
+                         const std::string& name)
+{
+    try {
+        picture = decodePicture(readResource(pictureContainerPath(container), type, name), type);
+        return true;
+    } catch (const std::exception&) {
+        picture = Picture();
+        return false;
+    }
+}
+
+bool LoadAnimatedGifResource(std::vector<PictureFrame>& frames, const std::string& container,
+                             const std::string& name)
+{
+    try {
+        frames = decodeAnimatedGif(readResource(pictureContainerPath(container), "GIF", name));
+        return true;
+    } catch (const std::exception&) {
+        frames.clear();
+        return false;
+    }
+}
+
 // ---------------------------------------------------------------- messages
 
 std::string messageText(int n)

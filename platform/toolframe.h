@@ -10,6 +10,7 @@
 #include <QString>
 #include <functional>
 #include <string>
+#include <vector>
 
 class QAbstractButton;
 class QPrinter;
@@ -67,6 +68,17 @@ void setTextResourceFile(const std::string& path);
 std::string textResourceFile();
 // Fills `list` from the named text resource of textx.dll; false (and empty) when missing.
 bool LoadTextResource(StringList& list, const std::string& name);
+
+// Pictures come the same way from the picture containers (<dir>/<container>.dll, type "Jpeg",
+// "GIF", "BMP" or "PNG"); the directory defaults to <program dir>/bmp.
+void setPictureDirectory(const std::string& dir);
+std::string pictureDirectory();
+// False (and an empty picture) when the container, the resource or its data is bad.
+bool LoadPictureResource(Picture& picture, const std::string& container, const std::string& type,
+                         const std::string& name);
+// All frames of an animated GIF resource; false and no frames when missing or damaged.
+bool LoadAnimatedGifResource(std::vector<PictureFrame>& frames, const std::string& container,
+                             const std::string& name);
 
 // ---- Messages
 // Line n of the list "fehlerm" (0-based), or "Allgemeiner Fehler" (Windows-1252).

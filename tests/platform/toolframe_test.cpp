@@ -215,6 +215,35 @@ TEST(Messages, NumberedTextsFromTheResource)
     setTextResourceFile("");
 }
 
+TEST(Resources, PicturesByContainerTypeAndName)
+{
+    ensureGuiApp();
+    const fs::path dir = tempDir("quorix_picture_resources");
+    Picture pic(8, 6, clYellow);
+    ContainerWriter w;
+    w.add("Jpeg", "aa", encodeJpeg(pic, 100));
+    w.add("GIF", "z000", encodeGif(pic));
+    w.add("GIF", "kaputt", "GIF89a");
+    w.write((dir / "bwfkt.dll").string());
+    setPictureDirectory(dir.string());
+    Picture got;
+    ASSERT_TRUE(LoadPictureResource(got, "bwfkt", "Jpeg", "aa"));
+    EXPECT_EQ(got.width(), 8);
+    EXPECT_LE(std::abs(blueOf(got.pixel(4, 3)) - 0), 6);
+    EXPECT_LE(std::abs(redOf(got.pixel(4, 3)) - 255), 6);
+    std::vector<PictureFrame> frames;
+    ASSERT_TRUE(LoadAnimatedGifResource(frames, "bwfkt", "z000"));
+    ASSERT_EQ(frames.size(), 1u);
+    EXPECT_EQ(frames[0].picture.pixel(0, 0), clYellow);
+    EXPECT_FALSE(LoadPictureResource(got, "bwfkt", "GIF", "kaputt"));
+    EXPECT_TRUE(got.empty());
+    EXPECT_FALSE(LoadPictureResource(got, "bwfkt", "GIF", "fehlt"));
+    EXPECT_FALSE(LoadPictureResource(got, "gibtesnicht", "GIF", "z000"));
+    EXPECT_FALSE(LoadAnimatedGifResource(frames, "bwfkt", "kaputt"));
+    EXPECT_TRUE(frames.empty());
+    setPictureDirectory("");
+}
+
 TEST(Drawing, DrawLineAndFontAngle)
 {
     ensureGuiApp();
