@@ -240,7 +240,7 @@ Complex CArcTan(const Complex& z, unsigned char mode)
 {
     const cd v = toStd(z);
     if (v == I || v == -I)
-        throw EComplexInvalidOp("ARCTAN(\xB1i)");
+        throw EComplexInvalidOp("ARCTAN(i) oder ARCTAN(-i)");
     return fromStd(I / 2.0 * (std::log(1.0 - I * v) - std::log(1.0 + I * v)), mode);
 }
 Complex CArcCot(const Complex& z, unsigned char mode)
@@ -264,7 +264,7 @@ Complex CArTanh(const Complex& z, unsigned char mode)
 {
     const cd v = toStd(z);
     if (v == 1.0 || v == -1.0)
-        throw EComplexInvalidOp("ARTANH(\xB1" "1)");
+        throw EComplexInvalidOp("ARTANH(1) oder ARTANH(-1)");
     return fromStd((std::log(1.0 + v) - std::log(1.0 - v)) / 2.0, mode);
 }
 Complex CArCoth(const Complex& z, unsigned char mode)
