@@ -179,6 +179,11 @@ std::string encodeJpeg(const Picture& pic, int quality)
     cinfo.in_color_space = JCS_RGB;
     jpeg_set_defaults(&cinfo);
     jpeg_set_quality(&cinfo, quality, TRUE);
+    // Full chroma resolution: one-pixel coloured lines of drawings keep their colour.
+    for (int c = 0; c < cinfo.num_components; ++c) {
+        cinfo.comp_info[c].h_samp_factor = 1;
+        cinfo.comp_info[c].v_samp_factor = 1;
+    }
     jpeg_start_compress(&cinfo, TRUE);
     st->row.resize(static_cast<size_t>(pic.width()) * 3);
     while (cinfo.next_scanline < cinfo.image_height) {

@@ -339,3 +339,16 @@ TEST(Codecs, InterlacedGifRowsInPictureOrder)
         EXPECT_EQ(qRed(qt.pixel(2, y)), y * 16) << "row " << y;
     }
 }
+
+TEST(Codecs, JpegKeepsThinColouredLines)
+{
+    // A one-pixel red line on white: with halved chroma it would come back pale pink.
+    Picture pic(16, 16);
+    for (int y = 0; y < 16; ++y)
+        pic.setPixel(7, y, clRed);
+    const Picture back = decodeJpeg(encodeJpeg(pic, 100));
+    const TColor c = back.pixel(7, 8);
+    EXPECT_GE(redOf(c), 230) << std::hex << c;
+    EXPECT_LE(greenOf(c), 40) << std::hex << c;
+    EXPECT_LE(blueOf(c), 40) << std::hex << c;
+}
