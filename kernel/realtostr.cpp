@@ -35,7 +35,8 @@ std::string formatReal(int width, int decimals, double x, bool comma)
         return std::string();
     if (len >= static_cast<int>(sizeof buf))
         len = sizeof buf - 1;
-    if (decimals > 0 && std::memchr(buf, '.', static_cast<size_t>(len))) {
+    if (decimals > 0 && std::memchr(buf, '.', static_cast<size_t>(len)) &&
+        !std::memchr(buf, 'e', static_cast<size_t>(len))) {
         while (len >= 2 && buf[len - 1] == '0')
             --len;
         while (len > 1 && buf[len - 1] == '.')

@@ -27,6 +27,8 @@ TEST(RealToStr, TrimmingAndNegativeZero)
     EXPECT_EQ(RealToStr(1, 4, -12.34567), "-12.3457");
     EXPECT_EQ(RealToStr(1, 2, 1e6), "1000000");
     EXPECT_EQ(RealToStr(1, 1, 0.96), "1");
+    // Beyond 1e300 the fixed form would be 300 digits long; the exponent must stay whole.
+    EXPECT_EQ(RealToStr(1, 2, 1e300), "1.00e+300");
     // The width pads before trimming; trimming shortens the text only.
     EXPECT_EQ(RealToStr(8, 2, 1.5), "    1.5");
     EXPECT_EQ(RealToStr(6, 1, -0.01), "     0");
