@@ -42,7 +42,7 @@ cd evalDeriv(const std::vector<double>& c, cd x)
 void polish(std::vector<cd>& roots, const std::vector<double>& coeffs)
 {
     for (cd& z : roots) {
-        for (int k = 0; k < 3; ++k) {
+        for (int k = 0; k < 8; ++k) {
             const cd f = evalPoly(coeffs, z);
             const cd d = evalDeriv(coeffs, z);
             if (std::abs(d) == 0 || std::abs(f) == 0)
@@ -136,10 +136,10 @@ PolynomialRoots QuadraticRootValues(double a, double b, double c)
     return pr;
 }
 
-PolynomialRoots CubicRootValues(double a, double b, double c, double d)
+namespace {
+
+PolynomialRoots cubicClosed(double a, double b, double c, double d)
 {
-    if (a == 0)
-        return QuadraticRootValues(b, c, d);
     PolynomialRoots pr;
     const double r = b / a, s = c / a, t = d / a;
     // x = y - r/3 gives y^3 + p y + q = 0.
@@ -176,10 +176,8 @@ PolynomialRoots CubicRootValues(double a, double b, double c, double d)
     return pr;
 }
 
-PolynomialRoots QuarticRootValues(double a, double b, double c, double d, double e)
+PolynomialRoots quarticClosed(double a, double b, double c, double d, double e)
 {
-    if (a == 0)
-        return CubicRootValues(b, c, d, e);
     PolynomialRoots pr;
     const double B = b / a, C = c / a, D = d / a, E = e / a;
     // x = y - B/4 gives y^4 + p y^2 + q y + r = 0.
@@ -214,6 +212,155 @@ PolynomialRoots QuarticRootValues(double a, double b, double c, double d, double
     polish(pr.roots, {a, b, c, d, e});
     sortRoots(pr.roots);
     return pr;
+}
+
+// The largest backward error of the roots: |p(z)| against the size of the terms at z.
+double backwardError(const std::vector<cd>& roots, const std::vector<double>& c)
+{
+    double worst = 0;
+    for (const cd& z : roots) {
+        double size = 0, az = 1;
+        for (size_t i = c.size(); i-- > 0;) {
+            size += std::fabs(c[i]) * az;
+            az *= std::abs(z);
+        }
+        const double err = size > 0 ? std::abs(evalPoly(c, z)) / size : 0;
+        if (!(err <= worst))
+            worst = std::isnan(err) ? HUGE_VAL : err;
+    }
+    return worst;
+}
+
+// Aberth's simultaneous iteration from the given starting values; starting values that
+// coincide are pulled apart first, since the method divides by their differences.
+void aberth(std::vector<cd>& z, const std::vector<double>& c)
+{
+    const size_t n = z.size();
+    for (size_t i = 0; i < n; ++i)
+        for (size_t j = 0; j < i; ++j)
+            if (std::abs(z[i] - z[j]) <= 1e-9 * std::max(1.0, std::abs(z[i])))
+                z[i] += cd(1e-3, 1e-3 * (1.0 + static_cast<double>(i))) * std::max(1.0, std::abs(z[i]));
+    for (int round = 0; round < 500; ++round) {
+        bool moved = false;
+        for (size_t k = 0; k < n; ++k) {
+            const cd f = evalPoly(c, z[k]);
+            if (f == 0.0)
+                continue;
+            const cd d = evalDeriv(c, z[k]);
+            cd sum = 0;
+            for (size_t j = 0; j < n; ++j)
+                if (j != k && z[k] != z[j])
+                    sum += 1.0 / (z[k] - z[j]);
+            const cd ratio = d == 0.0 ? cd(1e-3, 1e-3) : f / d;
+            const cd step = ratio / (1.0 - ratio * sum);
+            if (!std::isfinite(step.real()) || !std::isfinite(step.imag()))
+                continue;
+            z[k] -= step;
+            if (std::abs(step) > 1e-15 * std::abs(z[k]))
+                moved = true;
+        }
+        if (!moved)
+            break;
+    }
+    for (cd& r : z)
+        if (r.imag() != 0 && std::abs(r.imag()) <= 1e-12 * std::max(1.0, std::abs(r.real())))
+            r = cd(r.real(), 0);
+}
+
+// Starting values for Aberth: the upper convex hull of (i, log|a_i|) over the coefficients of
+// x^i tells how many roots lie near which radius.
+std::vector<cd> newtonPolygonSeeds(const std::vector<double>& c)
+{
+    const int n = static_cast<int>(c.size()) - 1;
+    std::vector<int> idx;
+    std::vector<double> lg;
+    for (int i = 0; i <= n; ++i) {
+        const double a = std::fabs(c[static_cast<size_t>(n - i)]);  // coefficient of x^i
+        if (a > 0) {
+            idx.push_back(i);
+            lg.push_back(std::log(a));
+        }
+    }
+    std::vector<size_t> hull;
+    for (size_t k = 0; k < idx.size(); ++k) {
+        while (hull.size() >= 2) {
+            const size_t a = hull[hull.size() - 2], b = hull.back();
+            const double cross = (idx[b] - idx[a]) * (lg[k] - lg[a]) - (lg[b] - lg[a]) * (idx[k] - idx[a]);
+            if (cross >= 0)
+                hull.pop_back();
+            else
+                break;
+        }
+        hull.push_back(k);
+    }
+    std::vector<cd> seeds;
+    int made = 0;
+    for (size_t h = 1; h < hull.size(); ++h) {
+        const size_t a = hull[h - 1], b = hull[h];
+        const int count = idx[b] - idx[a];
+        const double radius = std::exp((lg[a] - lg[b]) / count);
+        for (int k = 0; k < count; ++k, ++made)
+            seeds.push_back(std::polar(radius, 2 * kPi * k / count + 0.4 + 0.7 * made));
+    }
+    while (static_cast<int>(seeds.size()) < n)  // zero roots (a_0 = 0): start near 0
+        seeds.push_back(cd(1e-3, 1e-3 * static_cast<double>(seeds.size())));
+    return seeds;
+}
+
+// The closed formulas shift by b/(n a); a tiny leading coefficient makes that shift huge and
+// the result worthless. The reversed polynomial (roots 1/z) is then well scaled: both are
+// tried when the direct roots are poor, and the better set is kept.
+template <class Solver>
+PolynomialRoots withReversal(const std::vector<double>& c, Solver solve)
+{
+    PolynomialRoots direct = solve(c);
+    const double directError = backwardError(direct.roots, c);
+    if (directError <= 1e-12 || c.back() == 0)
+        return direct;
+    std::vector<double> reversed(c.rbegin(), c.rend());
+    PolynomialRoots back = solve(reversed);
+    for (cd& z : back.roots)
+        z = 1.0 / z;
+    polish(back.roots, c);
+    sortRoots(back.roots);
+    const double backError = backwardError(back.roots, c);
+    PolynomialRoots best = backError < directError ? back : direct;
+    const double bestError = std::min(backError, directError);
+    if (bestError <= 1e-12)
+        return best;
+    // Roots of widely different sizes defeat both: refine all of them together (Aberth).
+    PolynomialRoots refined = best;
+    aberth(refined.roots, c);
+    sortRoots(refined.roots);
+    const double refinedError = backwardError(refined.roots, c);
+    if (refinedError < bestError) {
+        best = refined;
+        if (refinedError <= 1e-12)
+            return best;
+    }
+    // Last resort: start afresh on circles whose radii the Newton polygon gives.
+    PolynomialRoots fresh = best;
+    fresh.roots = newtonPolygonSeeds(c);
+    aberth(fresh.roots, c);
+    sortRoots(fresh.roots);
+    return backwardError(fresh.roots, c) < std::min(bestError, refinedError) ? fresh : best;
+}
+
+}  // namespace
+
+PolynomialRoots CubicRootValues(double a, double b, double c, double d)
+{
+    if (a == 0)
+        return QuadraticRootValues(b, c, d);
+    return withReversal({a, b, c, d}, [](const std::vector<double>& k) { return cubicClosed(k[0], k[1], k[2], k[3]); });
+}
+
+PolynomialRoots QuarticRootValues(double a, double b, double c, double d, double e)
+{
+    if (a == 0)
+        return CubicRootValues(b, c, d, e);
+    return withReversal({a, b, c, d, e},
+                        [](const std::vector<double>& k) { return quarticClosed(k[0], k[1], k[2], k[3], k[4]); });
 }
 
 std::string QuadraticRoots(double a, double b, double c) { return joinRoots(QuadraticRootValues(a, b, c)); }

@@ -70,6 +70,43 @@ TEST(Roots, QuarticFerrariAndBiquadratic)
     expectRootsSolve(QuarticRootValues(1, 2, 3, 4, 5), {1, 2, 3, 4, 5}, 1e-10, "two complex pairs");
 }
 
+TEST(Roots, BadlyScaledPolynomials)
+{
+    // A tiny leading coefficient: the closed form's shift b/(4a) would swamp the small roots.
+    const auto tiny = QuarticRootValues(9.87007e-05, 7.19477, -6.7149, 6.35934, 6.26322);
+    ASSERT_EQ(tiny.roots.size(), 4u);
+    EXPECT_NEAR(tiny.roots[0].real(), -7.19477 / 9.87007e-05, 10.0);  // the one huge root
+    EXPECT_EQ(QuarticRoots(1, 0, 0, 0, 0), "0; 0; 0; 0");
+    // Roots spread over ten orders of magnitude: 1e-3, 2, -3e4, 5e5 (each found to 1e-9 relative).
+    const double r[4] = {1e-3, 2, -3e4, 5e5};
+    std::vector<double> c = {1};
+    for (double x : r) {
+        std::vector<double> n(c.size() + 1, 0);
+        for (size_t i = 0; i < c.size(); ++i) {
+            n[i] += c[i];
+            n[i + 1] -= x * c[i];
+        }
+        c = n;
+    }
+    const auto spread = QuarticRootValues(c[0], c[1], c[2], c[3], c[4]);
+    ASSERT_EQ(spread.roots.size(), 4u);
+    const double sorted[4] = {-3e4, 1e-3, 2, 5e5};
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_NEAR(spread.roots[i].real(), sorted[i], 1e-9 * std::fabs(sorted[i])) << i;
+        EXPECT_EQ(spread.roots[i].imag(), 0) << i;
+    }
+    // Tiny outer and dominant middle coefficients: two huge and two tiny roots, none lost.
+    const auto both = QuarticRootValues(-3.90781e-06, -0.372273, -62593.2, -1.66024, -0.000195022);
+    for (const auto& z : both.roots) {
+        std::complex<double> v = -3.90781e-06;
+        for (double k : {-0.372273, -62593.2, -1.66024, -0.000195022})
+            v = v * z + k;
+        const double size = 3.90781e-06 * std::pow(std::abs(z), 4) + 0.372273 * std::pow(std::abs(z), 3) +
+                            62593.2 * std::norm(z) + 1.66024 * std::abs(z) + 0.000195022;
+        EXPECT_LT(std::abs(v) / size, 1e-10) << RootText(z);
+    }
+}
+
 TEST(Roots, SplitForListings)
 {
     EXPECT_EQ(SplitRoots("1; 2; 3"), (std::vector<std::string>{"1", "2", "3"}));
