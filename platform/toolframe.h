@@ -2,6 +2,7 @@
 // Helpers that give all tool windows the same toolbar, save, copy and print of a drawing, text
 // files, text resources and numbered messages. A tool hands over one paint routine; screen,
 // file, clipboard and printer all get the same drawing.
+#include "kernel/coordinates.h"  // the pixel mapping (CoordinatesPixel) lives in the kernel
 #include "platform/canvas.h"
 #include "platform/picture.h"
 #include "platform/textlist.h"
