@@ -13,6 +13,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <vector>
 
 using namespace platform;
 
@@ -241,31 +242,28 @@ std::string makeAnimation()
     int error = 0;
     GifFileType* gif = EGifOpen(&out, appendToString, &error);
     GifColorType colors[4] = {{255, 255, 255}, {255, 0, 0}, {0, 0, 255}, {0, 160, 0}};
-    gif->SWidth = 20;
-    gif->SHeight = 10;
-    gif->SColorResolution = 2;
-    gif->SBackGroundColor = 0;
-    gif->SColorMap = GifMakeMapObject(4, colors);
+    ColorMapObject* map = GifMakeMapObject(4, colors);
+    EGifSetGifVersion(gif, true);
+    EGifPutScreenDesc(gif, 20, 10, 2, 0, map);
     struct F { int l, t, w, h, color, delay, disposal; bool hole; };
     const F frames[] = {{0, 0, 20, 10, 1, 10, DISPOSE_DO_NOT, false},
                         {2, 2, 5, 5, 2, 20, DISPOSE_BACKGROUND, false},
                         {10, 5, 3, 3, 3, 30, DISPOSE_DO_NOT, true}};
     for (const F& f : frames) {
-        SavedImage* img = GifMakeSavedImage(gif, nullptr);
-        img->ImageDesc = {f.l, f.t, f.w, f.h, false, nullptr};
-        img->RasterBits = static_cast<GifByteType*>(std::malloc(static_cast<size_t>(f.w * f.h)));
-        std::memset(img->RasterBits, f.color, static_cast<size_t>(f.w * f.h));
-        GraphicsControlBlock gcb{f.disposal, false, f.delay, NO_TRANSPARENT_COLOR};
-        if (f.hole) {
-            gcb.TransparentColor = 0;
-            img->RasterBits[4] = 0;
-        }
+        GraphicsControlBlock gcb{f.disposal, false, f.delay, f.hole ? 0 : NO_TRANSPARENT_COLOR};
         GifByteType ext[4];
         const size_t len = EGifGCBToExtension(&gcb, ext);
-        GifAddExtensionBlock(&img->ExtensionBlockCount, &img->ExtensionBlocks, GRAPHICS_EXT_FUNC_CODE,
-                             static_cast<unsigned>(len), ext);
+        EGifPutExtension(gif, GRAPHICS_EXT_FUNC_CODE, static_cast<int>(len), ext);
+        EGifPutImageDesc(gif, f.l, f.t, f.w, f.h, false, nullptr);
+        for (int y = 0; y < f.h; ++y) {
+            std::vector<GifByteType> line(static_cast<size_t>(f.w), static_cast<GifByteType>(f.color));
+            if (f.hole && y == 1)
+                line[1] = 0;  // the centre pixel is transparent
+            EGifPutLine(gif, line.data(), f.w);
+        }
     }
-    EGifSpew(gif);  // writes and closes
+    EGifCloseFile(gif, &error);
+    GifFreeMapObject(map);
     return out;
 }
 
