@@ -3,7 +3,10 @@
 #include "app/teilprogramm.h"
 #include "app/winfkt.h"
 #include "app/lint.h"
+#include "astronomy/commands.h"
 #include "crypto/commands.h"
+#include "kernel/commands.h"
+#include "platform/commands.h"
 #include "kernel/headless.h"
 #include "lexicon/einstellungen.h"
 #include "lexicon/globals.h"
@@ -258,7 +261,8 @@ std::vector<quorix::HeadlessCommand> appCommands()
 std::vector<quorix::HeadlessCommand> alleBefehle()
 {
     std::vector<quorix::HeadlessCommand> alle = appCommands();
-    for (auto* satz : {&crypto::cryptoCommands}) {
+    for (auto* satz : {&kernel::kernelCommands, &platform::platformCommands, &crypto::cryptoCommands,
+                       &::astronomyCommands}) {
         auto mehr = satz();
         alle.insert(alle.end(), mehr.begin(), mehr.end());
     }

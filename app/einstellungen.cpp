@@ -1,6 +1,7 @@
 #include "app/einstellungen.h"
 
 #include "lexicon/einstellungen.h"
+#include "kernel/realtostr.h"
 #include "lexicon/globals.h"
 
 #include <QCheckBox>
@@ -172,6 +173,7 @@ void TForm33::D2Click()
     einstellungen.druckschrift = C1->currentText().toStdString();
     einstellungen.fDruck = CB1->isChecked();
     einstellungen.komma = cb4->isChecked();
+    kernel::UseDecimalComma = einstellungen.komma;
     einstellungen.querv = CB3->isChecked();
     accept();
 }

@@ -1,5 +1,6 @@
 #include "app/teilprogramm.h"
 
+#include "astronomy/windows.h"
 #include "crypto/windows.h"
 #include "lexicon/globals.h"
 
@@ -43,7 +44,7 @@ const std::vector<WerkzeugEintrag>& werkzeugtabelle()
         std::vector<WerkzeugEintrag> t = {
             {2, A::A, "TFInter", {}},       {3, A::A, "TFAnalysis", {}},   {4, A::C, "TFGraph", {}},
             {5, A::A, "TFabbild", {}},      {6, A::A, "TFchaos", {}},      {7, A::B, "TFnumer", {}},
-            {8, A::A, "TFalgebra", {}},     {9, A::A, "TFkalend", {}},     {10, A::A, "Tf2048", {}},
+            {8, A::A, "TFalgebra", {}},     {9, A::A, "TFkalend", ::createTFkalend},     {10, A::A, "Tf2048", {}},
             {11, A::A, "TFpoly", {}},       {12, A::A, "TFintegra", {}},   {13, A::A, "TForm13", {}},
             {14, A::A, "TForm14", {}},      {15, A::A, "TFphy", {}},       {16, A::A, "TForm16", {}},
             {17, A::A, "TForm17", {}},      {18, A::A, "Ttranskoord", {}}, {19, A::B, "Tfphase", {}},

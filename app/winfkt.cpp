@@ -14,6 +14,8 @@
 #include "lexicon/seitenrechner.h"
 #include "platform/codepage.h"
 #include "platform/container.h"
+#include "platform/toolframe.h"
+#include "kernel/realtostr.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -145,6 +147,9 @@ void TForm1::FormCreate(bool headless)
         !lexicon::textDateiLesen(lexicon::programmpfad + "quorix.ini", ini))
         myexceptionhandler("Datei nicht gefunden: quorix.ini");
     lexicon::einstellungenLesen(einstellungen, ini);
+    kernel::UseDecimalComma = einstellungen.komma;
+    platform::setTextResourceFile(lexicon::lexikonpfad + "textx.dll");
+    platform::setPictureDirectory(lexicon::bildpfad);
 
     // 4. Caption
     setWindowTitle("Quorix");
@@ -1192,13 +1197,7 @@ void TForm1::stichwortSuchenUndZeigen(const std::string& text)
 
 std::string TForm1::meldung(int nummer) const
 {
-    try {
-        const auto liste = platform::loadTextResource(lexicon::lexikonpfad + "textx.dll", "10", "fehlerm");
-        if (nummer >= 0 && static_cast<size_t>(nummer) < liste.size() && !liste[static_cast<size_t>(nummer)].empty())
-            return platform::cp1252ToUtf8(liste[static_cast<size_t>(nummer)]);
-    } catch (const std::exception&) {
-    }
-    return "Allgemeiner Fehler";
+    return platform::cp1252ToUtf8(platform::messageText(nummer));
 }
 
 QAction* TForm1::menuePunkt(const std::string& name) const
