@@ -100,11 +100,12 @@ mp_recip::~mp_recip() { mp_clear2(d, inv); }
 
 static void s_mag_divrem(const mp_int& a, const mp_int& b, mp_int* q, mp_int* r);
 
-// X := floor(B^(2n) / d), d positive with n digits
-static void s_recip_calc(const mp_int& d, mp_int& X)
+// X := floor(B^(2n) / d), d positive with n digits; inner levels of the recursion need
+// only an approximation within a few units, so only the top level corrects exactly.
+static void s_recip_calc(const mp_int& d, mp_int& X, bool exact = true)
 {
     int n = d.used;
-    if (n < mp_div_cutoff || n < 8) {
+    if (n < 120 || n < 8) {
         mp_tmp p;
         mp_setbit(p, 2 * n * DIGIT_BIT);
         s_divrem_knuth(p, d, &X, nullptr);
@@ -114,7 +115,7 @@ static void s_recip_calc(const mp_int& d, mp_int& X)
     mp_tmp dh, Y, E, T;
     mp_copy(d, dh);
     mp_rshd(dh, n - k);
-    s_recip_calc(dh, Y);
+    s_recip_calc(dh, Y, false);
     // E = B^(n+k) - d*Y, then X = Y*B^(n-k) + floor(Y*E / B^(2k))
     s_mul_mag(d, Y, T);
     mp_setbit(E, (n + k) * DIGIT_BIT);
@@ -124,6 +125,8 @@ static void s_recip_calc(const mp_int& d, mp_int& X)
     mp_copy(Y, X);
     mp_lshd(X, n - k);
     mp_add(X, T, X);
+    if (!exact)
+        return;
     // correct the last units through the remainder
     mp_tmp R;
     s_mul_mag(d, X, T);

@@ -76,7 +76,7 @@ struct PowerLadder {
     void divrem(const mp_int& x, size_t k, mp_int& q, mp_int& r)
     {
         const mp_int& p = at(k);
-        if (p.used < mp_div_cutoff) {
+        if (p.used < 100) {  // a reciprocal pays here: it serves many divisions
             mp_divrem(x, p, &q, &r);
             return;
         }
@@ -214,7 +214,20 @@ static void s_write_small(const mp_int& x, int radix, size_t width, std::string&
     std::string rev;
     while (y.v.used) {
         mp_digit rem;
-        s_mp_div_d(y, t.power[radix], &y.v, rem);
+        if (radix == 10) {
+            // a constant divisor lets the compiler multiply instead of divide
+            mp_word r = 0;
+            for (int i = y.v.used - 1; i >= 0; --i) {
+                mp_word cur = (r << DIGIT_BIT) | y.v.pdigits[i];
+                mp_word q = cur / 1000000000u;
+                r = cur - q * 1000000000u;
+                y.v.pdigits[i] = static_cast<mp_digit>(q);
+            }
+            rem = static_cast<mp_digit>(r);
+            mp_clamp(y);
+        } else {
+            s_mp_div_d(y, t.power[radix], &y.v, rem);
+        }
         for (int i = 0; i < e; ++i) {
             rev.push_back(kDigits[rem % radix]);
             rem /= radix;

@@ -88,11 +88,15 @@ TEST_F(GmpCompare, DivisionWithSignsAndNewtonPath)
 {
     mp_tmp a, b, q, r;
     Z za, zb, zq, zr;
+    int saved = mp_div_cutoff;
+    for (int cutoff : {120, saved})
     for (int nb : {1, 2, 3, 10, 50, 119, 120, 300, 900})
         for (int extra : {0, 1, 5, 60, 200, 1000}) {
             randomSigned(a, nb + extra);
             randomSigned(b, nb);
+            mp_div_cutoff = cutoff;
             mp_divrem(a, b, &q.v, &r.v);
+            mp_div_cutoff = saved;
             toGmp(a, za.z);
             toGmp(b, zb.z);
             mpz_tdiv_qr(zq.z, zr.z, za.z, zb.z);
