@@ -12,12 +12,12 @@ thread_local int mp_error = MP_OKAY;
 
 int mp_allocprec = 16;
 int mp_allocmask = 15;
-// Crossovers measured on this kernel: Karatsuba pays from about 32 digits (64 when squaring),
-// Toom-3 from about 400; Newton division from about 1200.
-int mp_mul_cutoff = 32;
-int mp_t3m_cutoff = 400;
-int mp_sqr_cutoff = 64;
-int mp_t3s_cutoff = 400;
+// Crossovers measured on this kernel: Karatsuba pays from about 64 digits (96 when squaring),
+// Toom-3 from about 300; Newton division from about 1200.
+int mp_mul_cutoff = 64;
+int mp_t3m_cutoff = 300;
+int mp_sqr_cutoff = 96;
+int mp_t3s_cutoff = 300;
 int mp_div_cutoff = 1200;
 int mp_radix_cutoff = 40;
 bool mp_show_plus = false;

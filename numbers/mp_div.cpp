@@ -47,18 +47,17 @@ static void s_divrem_knuth(const mp_int& a, const mp_int& b, mp_int* q, mp_int* 
             --qhat;
             rhat += vt;
         }
-        // multiply and subtract
-        mp_word carry = 0;
-        int64_t borrow = 0;
+        // multiply and subtract with one signed carry: qhat * v[i] < 2^62 keeps it in 64 bits
+        int64_t c = 0;
+        mp_digit* uj = u.data() + j;
+        const mp_digit* vv = v.data();
         for (int i = 0; i < n; ++i) {
-            mp_word p = qhat * v[i] + carry;
-            carry = p >> DIGIT_BIT;
-            int64_t t = int64_t(u[i + j]) - int64_t(p & MP_MASK) - borrow;
-            borrow = t < 0;
-            u[i + j] = static_cast<mp_digit>(t & MP_MASK);
+            int64_t t = int64_t(uj[i]) + c - int64_t(qhat * vv[i]);
+            uj[i] = static_cast<mp_digit>(t) & MP_MASK;
+            c = t >> DIGIT_BIT;  // arithmetic shift: floor
         }
-        int64_t t = int64_t(u[j + n]) - int64_t(carry) - borrow;
-        u[j + n] = static_cast<mp_digit>(t & MP_MASK);
+        int64_t t = int64_t(u[j + n]) + c;
+        u[j + n] = static_cast<mp_digit>(t) & MP_MASK;
         if (t < 0) {
             // rare: qhat was one too large, add back
             --qhat;
@@ -146,7 +145,8 @@ void s_recip_setup(const mp_int& d, mp_recip& r)
 {
     mp_abs(d, r.d);
     r.n = r.d.used;
-    s_recip_calc(r.d, r.inv);
+    // a few units off is fine: the Barrett step corrects its quotient anyway
+    s_recip_calc(r.d, r.inv, false);
 }
 
 // one Barrett step for 0 <= x < B^(2n): q := x div d, x := x mod d

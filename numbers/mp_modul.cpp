@@ -62,23 +62,38 @@ void mp_montgomery_calcnorm(mp_int& a, const mp_int& n)
     mp_mod(p, n, a);
 }
 
+// One row of the reduction: mu * m added into split sums (see the product rows in mp_mul).
+__attribute__((target_clones("avx2", "default"), optimize("vect-cost-model=dynamic")))
+static void s_mont_row(uint64_t* __restrict lo, uint64_t* __restrict hi, const mp_digit* __restrict m, int n,
+                       uint64_t mu)
+{
+    for (int j = 0; j < n; ++j) {
+        uint64_t p = mu * m[j];
+        lo[j] += p & MP_MASK;
+        hi[j] += p >> DIGIT_BIT;
+    }
+}
+
 // x[0..2n] (one spare digit on top) -> x[n..2n] holds the reduced value, below 2m
 static void s_mont_reduce(mp_digit* x, const mp_digit* m, int n, mp_digit rho)
 {
+    std::vector<uint64_t> buf(size_t(4) * n + 4, 0);
+    uint64_t* lo = buf.data();
+    uint64_t* hi = lo + 2 * n + 2;
+    for (int k = 0; k <= 2 * n; ++k)
+        lo[k] = x[k];
+    uint64_t c = 0;
     for (int i = 0; i < n; ++i) {
-        mp_word mu = (mp_word(x[i]) * rho) & MP_MASK;
-        mp_word c = 0;
-        mp_digit* xi = x + i;
-        for (int j = 0; j < n; ++j) {
-            mp_word t = xi[j] + mu * m[j] + c;
-            xi[j] = static_cast<mp_digit>(t & MP_MASK);
-            c = t >> DIGIT_BIT;
-        }
-        for (int j = n; c; ++j) {
-            mp_word t = xi[j] + c;
-            xi[j] = static_cast<mp_digit>(t & MP_MASK);
-            c = t >> DIGIT_BIT;
-        }
+        uint64_t t = lo[i] + (i ? hi[i - 1] : 0) + c;
+        uint64_t mu = ((t & MP_MASK) * rho) & MP_MASK;
+        s_mont_row(lo + i, hi + i, m, n, mu);
+        t = lo[i] + (i ? hi[i - 1] : 0) + c;  // now divisible by the radix
+        c = t >> DIGIT_BIT;
+    }
+    for (int k = n; k <= 2 * n; ++k) {
+        uint64_t t = lo[k] + hi[k - 1] + c;
+        x[k] = static_cast<mp_digit>(t) & MP_MASK;
+        c = t >> DIGIT_BIT;
     }
 }
 

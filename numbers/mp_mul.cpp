@@ -9,7 +9,6 @@
 
 namespace numbers {
 
-using u128 = unsigned __int128;
 
 // ------------------------------------------------------------ array helpers
 
@@ -72,6 +71,57 @@ struct Arena {
 
 // ------------------------------------------------------------ schoolbook
 
+// Row kernels: every 62-bit product is split into its low 31 bits and the rest, which go into two
+// arrays of 64-bit sums. Neither can overflow for any length the kernel allows, so the rows need
+// no carry pass, and the compiler can run them in vector registers.
+__attribute__((target_clones("avx2", "default"), optimize("vect-cost-model=dynamic")))
+static void s_rows(const mp_digit* __restrict a, int na, const mp_digit* __restrict b, int nb,
+                   uint64_t* __restrict lo, uint64_t* __restrict hi)
+{
+    for (int i = 0; i < nb; ++i) {
+        uint64_t bi = b[i];
+        uint64_t* __restrict l = lo + i;
+        uint64_t* __restrict h = hi + i;
+        for (int j = 0; j < na; ++j) {
+            uint64_t p = a[j] * bi;
+            l[j] += p & MP_MASK;
+            h[j] += p >> DIGIT_BIT;
+        }
+    }
+}
+
+__attribute__((target_clones("avx2", "default"), optimize("vect-cost-model=dynamic")))
+static void s_sqr_rows(const mp_digit* __restrict a, int n, uint64_t* __restrict lo, uint64_t* __restrict hi)
+{
+    for (int i = 0; i < n; ++i) {
+        uint64_t ai2 = uint64_t(a[i]) << 1;  // doubled cross products, below 2^63
+        uint64_t* __restrict l = lo + i;
+        uint64_t* __restrict h = hi + i;
+        for (int j = i + 1; j < n; ++j) {
+            uint64_t p = ai2 * a[j];
+            l[j] += p & MP_MASK;
+            h[j] += p >> DIGIT_BIT;
+        }
+    }
+    for (int i = 0; i < n; ++i) {
+        uint64_t p = uint64_t(a[i]) * a[i];
+        lo[2 * i] += p & MP_MASK;
+        hi[2 * i] += p >> DIGIT_BIT;
+    }
+}
+
+// r[k] = lo[k] + hi[k-1] with carries
+static void s_collect(const uint64_t* lo, const uint64_t* hi, int nr, mp_digit* r)
+{
+    uint64_t c = 0, prevHi = 0;
+    for (int k = 0; k < nr; ++k) {
+        uint64_t t = lo[k] + prevHi + c;
+        prevHi = hi[k];
+        r[k] = static_cast<mp_digit>(t) & MP_MASK;
+        c = t >> DIGIT_BIT;
+    }
+}
+
 void s_mp_mul_digs(const mp_digit* a, int na, const mp_digit* b, int nb, mp_digit* r)
 {
     if (na == 0 || nb == 0) {
@@ -92,50 +142,41 @@ void s_mp_mul_digs(const mp_digit* a, int na, const mp_digit* b, int nb, mp_digi
         r[n] = static_cast<mp_digit>(c);
         return;
     }
-    u128 acc = 0;
     int nr = na + nb;
-    for (int k = 0; k < nr - 1; ++k) {
-        int lo = std::max(0, k - nb + 1), hi = std::min(k, na - 1);
-        // products are below 2^62, so two of them fit a 64-bit sum
-        int i = lo;
-        for (; i + 1 <= hi; i += 2)
-            acc += uint64_t(a[i]) * b[k - i] + uint64_t(a[i + 1]) * b[k - i - 1];
-        if (i <= hi)
-            acc += uint64_t(a[i]) * b[k - i];
-        r[k] = static_cast<mp_digit>(acc) & MP_MASK;
-        acc >>= DIGIT_BIT;
+    uint64_t stackBuf[2 * 256];
+    std::vector<uint64_t> heap;
+    uint64_t* lo = stackBuf;
+    if (nr > 256) {
+        heap.assign(size_t(2) * nr, 0);
+        lo = heap.data();
+    } else {
+        std::memset(stackBuf, 0, sizeof(uint64_t) * 2 * nr);
     }
-    r[nr - 1] = static_cast<mp_digit>(acc);
+    uint64_t* hi = lo + nr;
+    if (na >= nb)
+        s_rows(a, na, b, nb, lo, hi);
+    else
+        s_rows(b, nb, a, na, lo, hi);
+    s_collect(lo, hi, nr, r);
 }
 
 static void s_sqr_digs(const mp_digit* a, int n, mp_digit* r)
 {
     if (n == 0)
         return;
-    u128 acc = 0;
     int nr = 2 * n;
-    for (int k = 0; k < nr - 1; ++k) {
-        int lo = std::max(0, k - n + 1), hi = std::min(k, n - 1);
-        u128 cross = 0;
-        int i = lo, j = hi;
-        uint64_t part = 0;
-        int cnt = 0;
-        for (; i < j; ++i, --j) {
-            part += uint64_t(a[i]) * a[j];
-            if (++cnt == 3) {
-                cross += part;
-                part = 0;
-                cnt = 0;
-            }
-        }
-        cross += part;
-        acc += cross << 1;
-        if (i == j)
-            acc += uint64_t(a[i]) * a[i];
-        r[k] = static_cast<mp_digit>(acc) & MP_MASK;
-        acc >>= DIGIT_BIT;
+    uint64_t stackBuf[2 * 256];
+    std::vector<uint64_t> heap;
+    uint64_t* lo = stackBuf;
+    if (nr > 256) {
+        heap.assign(size_t(2) * nr, 0);
+        lo = heap.data();
+    } else {
+        std::memset(stackBuf, 0, sizeof(uint64_t) * 2 * nr);
     }
-    r[nr - 1] = static_cast<mp_digit>(acc);
+    uint64_t* hi = lo + nr;
+    s_sqr_rows(a, n, lo, hi);
+    s_collect(lo, hi, nr, r);
 }
 
 // ------------------------------------------------------------ recursive products

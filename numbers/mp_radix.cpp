@@ -76,7 +76,8 @@ struct PowerLadder {
     void divrem(const mp_int& x, size_t k, mp_int& q, mp_int& r)
     {
         const mp_int& p = at(k);
-        if (p.used < 100) {  // a reciprocal pays here: it serves many divisions
+        // a reciprocal pays for large divisors and balanced divisions only, as it serves many
+        if (p.used < 400 || x.used - p.used < p.used / 2) {
             mp_divrem(x, p, &q, &r);
             return;
         }
@@ -294,9 +295,17 @@ static std::string s_radix_astr(const mp_int& a, int radix)
         return out;
     }
     PowerLadder pw(table().power[radix]);
+    // smallest level whose power exceeds x; the square of the last power is not formed
+    // when its bit size alone shows that it would exceed x
     size_t level = 0;
-    while (pw.at(level).used <= x.v.used && mp_cmp_mag(pw.at(level), x) <= 0)
+    int32_t xb = mp_bitsize(x);
+    while (mp_cmp_mag(pw.at(level), x) <= 0) {
+        if (2 * mp_bitsize(pw.at(level)) - 2 >= xb) {
+            ++level;
+            break;
+        }
         ++level;
+    }
     s_write_rec(x, level, false, radix, pw, out);
     return out;
 }
