@@ -13,12 +13,12 @@ thread_local int mp_error = MP_OKAY;
 int mp_allocprec = 16;
 int mp_allocmask = 15;
 // Crossovers measured on this kernel: Karatsuba pays from about 64 digits (96 when squaring),
-// Toom-3 from about 300; Newton division from about 1200.
+// Toom-3 from about 300; Newton division from about 300.
 int mp_mul_cutoff = 64;
 int mp_t3m_cutoff = 300;
 int mp_sqr_cutoff = 96;
 int mp_t3s_cutoff = 300;
-int mp_div_cutoff = 1200;
+int mp_div_cutoff = 300;
 int mp_radix_cutoff = 40;
 bool mp_show_plus = false;
 bool mp_gcd_use_mod = true;

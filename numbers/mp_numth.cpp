@@ -124,8 +124,7 @@ int popcount32(uint32_t x)
         uint8_t c[256];
         Table()
         {
-            for (int i = 0; i < 256; ++i)
-                c[i] = static_cast<uint8_t>((i & 1) + (i ? 0 : 0));
+            c[0] = 0;
             for (int i = 1; i < 256; ++i)
                 c[i] = static_cast<uint8_t>(c[i >> 1] + (i & 1));
         }
@@ -143,7 +142,7 @@ static int s_sub_shift(mp_digit* v, int nv, const mp_digit* u, int nu)
         ++i0;
     mp_digit low = (v[i0] - (i0 < nu ? u[i0] : 0)) & MP_MASK;
     int sh = __builtin_ctz(low);
-    int dsh = i0;  // whole digits that became zero
+    // the digits below i0 are equal, so the difference starts at digit i0
     mp_digit borrow = 0;
     mp_digit prev = 0;
     bool have = false;
@@ -161,7 +160,6 @@ static int s_sub_shift(mp_digit* v, int nv, const mp_digit* u, int nu)
         prev = t;
     }
     v[out++] = prev >> sh;
-    (void)dsh;
     for (int i = out; i < nv; ++i)
         v[i] = 0;
     while (out > 0 && v[out - 1] == 0)
