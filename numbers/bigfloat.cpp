@@ -1,6 +1,7 @@
 // TOpBox window: reads X, Y and the digit count, runs opbox_core, shows the result.
 #include "numbers/bigfloat.h"
 #include "numbers/opbox_core.h"
+#include "numbers/tbigfloat.h"
 #include "numbers/windows.h"
 
 #include "platform/canvas.h"
@@ -130,8 +131,11 @@ void TOpBox::rechne(const std::string& op)
     LS->setText(QStringLiteral("Berechnung läuft ..."));
     QApplication::setOverrideCursor(Qt::WaitCursor);
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    // long products and divisions of the number classes keep the window painted
+    numbers::tintegerYield = [] { QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
     numbers::OpBoxResult r = numbers::opboxCompute(op, EX->toPlainText().toStdString(),
                                                    EY->toPlainText().toStdString(), SZ->value());
+    numbers::tintegerYield = nullptr;
     QApplication::restoreOverrideCursor();
     busy_ = false;
     if (r.ok) {

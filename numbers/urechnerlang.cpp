@@ -171,12 +171,18 @@ void Trechla::paintEvent(QPaintEvent*)
 
 void Trechla::zaehle()
 {
+    // an overflow text is no number: it counts no digits
     auto n = [](QPlainTextEdit* e) {
         QString t = e->toPlainText().trimmed();
         int k = 0;
-        for (QChar ch : t)
-            if (ch.isLetterOrNumber())
+        for (QChar ch : t) {
+            if ((ch >= QLatin1Char('0') && ch <= QLatin1Char('9')) || (ch >= QLatin1Char('A') && ch <= QLatin1Char('F')))
                 ++k;
+            else if (ch != QLatin1Char('-')) {
+                k = 0;
+                break;
+            }
+        }
         return QStringLiteral("%1 Ziffern").arg(k);
     };
     L1->setText(n(Me1));

@@ -305,3 +305,43 @@ TEST_F(Kernel, LucasVAndModularReductions)
     mp_reduce_2k(x, m, d);
     EXPECT_TRUE(mp_is_eq(r1, x));
 }
+
+TEST_F(Kernel, RandomNumbersHaveTheirLength)
+{
+    mp_tmp a;
+    for (int n : {1, 2, 17, 300}) {
+        mp_rand(a, n);
+        EXPECT_EQ(a.v.used, n);
+        EXPECT_NE(a.v.pdigits[n - 1], 0u);
+        mp_rand_ex(a, n, true);
+        EXPECT_EQ(mp_bitsize(a), n * 31) << "top bit forced";
+    }
+    mp_rand(a, 0);
+    EXPECT_TRUE(mp_iszero(a));
+    for (int i = 0; i < 1000; ++i)
+        ASSERT_GE(mp_random_int(), 0) << "31 bits";
+    // the same seed gives the same numbers
+    mp_tmp b;
+    mp_random_seed(99);
+    mp_rand(a, 10);
+    mp_random_seed(99);
+    mp_rand(b, 10);
+    EXPECT_TRUE(mp_is_eq(a, b));
+}
+
+TEST_F(Kernel, RadixSizeIsAnUpperBoundWithSign)
+{
+    mp_tmp a;
+    for (const char* s : {"0", "1", "-1", "999999999999", "-1000000000000000000000000000000"})
+        for (int radix : {2, 3, 10, 16, 36}) {
+            mp_read_decimal(a, s);
+            for (bool plus : {false, true}) {
+                mp_show_plus = plus;
+                std::string t = mp_radix_astr(a, radix);
+                EXPECT_LE(int32_t(t.size()) + 1, mp_radix_size(a, radix)) << s << " radix " << radix;
+                if (plus && a.v.used && a.v.sign == 0)
+                    EXPECT_EQ(t[0], '+');
+            }
+            mp_show_plus = false;
+        }
+}
