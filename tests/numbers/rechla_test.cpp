@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <sstream>
 
 using namespace numbers;
@@ -114,4 +115,42 @@ TEST(Commands, BigfloatOutput)
     EXPECT_EQ(run("bigfloat", {"add", "x", "1"}).code, 2);
     EXPECT_EQ(run("bigfloat", {"sqrt"}).code, 2);
     EXPECT_EQ(run("bigfloat", {"sqrt", "2", "--digits", "10"}).out, "1,414213562\n");
+}
+
+TEST(Commands, MpCaseTable)
+{
+    std::ifstream in(std::string(QUORIX_TEST_DATA) + "/mp_cases.txt");
+    ASSERT_TRUE(in) << "mp_cases.txt missing";
+    std::string line;
+    int n = 0, lineNo = 0;
+    auto trim = [](std::string s) {
+        size_t a = s.find_first_not_of(" \t"), b = s.find_last_not_of(" \t\r");
+        return a == std::string::npos ? std::string() : s.substr(a, b - a + 1);
+    };
+    while (std::getline(in, line)) {
+        ++lineNo;
+        if (trim(line).empty() || trim(line)[0] == '#')
+            continue;
+        std::vector<std::string> f;
+        std::stringstream ss(line);
+        std::string part;
+        while (std::getline(ss, part, '|'))
+            f.push_back(trim(part));
+        ASSERT_EQ(f.size(), 5u) << "line " << lineNo;
+        quorix::Args args = {f[0], f[1]};
+        if (!f[2].empty())
+            args.push_back(f[2]);
+        args.push_back("--base");
+        args.push_back(f[3]);
+        CmdRun r = run("mp", args);
+        ASSERT_EQ(r.code, 0) << "line " << lineNo << ": " << r.err;
+        std::string got = r.out.substr(0, r.out.size() - 1);
+        if (f[4][0] == '=')
+            EXPECT_EQ(std::to_string(got.size()), f[4].substr(1)) << "line " << lineNo << ": length of the result";
+        else
+            EXPECT_EQ(got, f[4]) << "line " << lineNo << ": " << f[0] << " " << f[1] << " " << f[2] << " base " << f[3]
+                                 << "\n  expected " << f[4] << "\n  actual   " << got;
+        ++n;
+    }
+    EXPECT_GT(n, 30);
 }
