@@ -215,14 +215,26 @@ void TInteger::sub(const TInteger& a, const TInteger& b, TInteger& r)
     add(a, nb, r);
 }
 
-static void carryOut(std::vector<int64_t>& acc)
+// The usual radix 10^6 is a constant in these loops, so the compiler multiplies instead of dividing;
+// R = 0 takes the radix at run time.
+template <int64_t R>
+static void carryOutT(std::vector<int64_t>& acc)
 {
+    const int64_t rad = R ? R : g_radix;
     int64_t c = 0;
     for (int64_t& x : acc) {
         int64_t t = x + c;
-        c = t / g_radix;
-        x = t % g_radix;
+        c = t / rad;
+        x = t - c * rad;
     }
+}
+
+static void carryOut(std::vector<int64_t>& acc)
+{
+    if (g_radix == 1000000)
+        carryOutT<1000000>(acc);
+    else
+        carryOutT<0>(acc);
 }
 
 void TInteger::mul(const TInteger& a, const TInteger& b, TInteger& r)
@@ -331,6 +343,20 @@ int64_t TInteger::divSmall(const TInteger& a, int64_t d, TInteger& q)
     return rem;
 }
 
+// u[0..n) -= qh * v[0..n), carry and borrow handed back for the top digit
+template <int64_t R>
+static void mulSubRow(int64_t* u, const int64_t* v, size_t n, int64_t qh, int64_t& carry, int64_t& br)
+{
+    const int64_t rad = R ? R : g_radix;
+    for (size_t i = 0; i < n; ++i) {
+        int64_t p = qh * v[i] + carry;
+        carry = p / rad;
+        int64_t t = u[i] - (p - carry * rad) - br;
+        br = t < 0;
+        u[i] = br ? t + rad : t;
+    }
+}
+
 void TInteger::divMod(const TInteger& a, const TInteger& b, TInteger& q, TInteger& r)
 {
     int sa = a.sign, sb = b.sign;
@@ -372,13 +398,10 @@ void TInteger::divMod(const TInteger& a, const TInteger& b, TInteger& q, TIntege
             rh += vt;
         }
         int64_t br = 0, carry = 0;
-        for (size_t i = 0; i < n; ++i) {
-            int64_t p = qh * v.digits[i] + carry;
-            carry = p / g_radix;
-            int64_t t = u.digits[i + j] - p % g_radix - br;
-            br = t < 0;
-            u.digits[i + j] = br ? t + g_radix : t;
-        }
+        if (g_radix == 1000000)
+            mulSubRow<1000000>(u.digits.data() + j, v.digits.data(), n, qh, carry, br);
+        else
+            mulSubRow<0>(u.digits.data() + j, v.digits.data(), n, qh, carry, br);
         int64_t t = u.digits[j + n] - carry - br;
         if (t < 0) {
             u.digits[j + n] = t + g_radix;
