@@ -174,3 +174,85 @@ TEST(TInteger, SquareAndDivisionAgainstGmp)
     gmp_randclear(rs);
     mpz_clears(za, zb, zq, zr, nullptr);
 }
+
+namespace {
+// floor(x * 10^w) of a series summed in GMP integers with 30 spare digits, written as TOpBox
+// shows it at `digits` digits (x between 1 and 10, or below 1 with one leading zero)
+struct Fixed {
+    mpz_t v, scale;
+    int w;
+    explicit Fixed(int digits) : w(digits + 30)
+    {
+        mpz_inits(v, scale, nullptr);
+        mpz_ui_pow_ui(scale, 10, static_cast<unsigned long>(w));
+    }
+    ~Fixed() { mpz_clears(v, scale, nullptr); }
+    // atan(1/x) * 10^w * k, added to v
+    void addAtan(long k, unsigned long x)
+    {
+        mpz_t p, t;
+        mpz_inits(p, t, nullptr);
+        mpz_fdiv_q_ui(p, scale, x);
+        for (unsigned long n = 0; mpz_sgn(p); ++n) {
+            mpz_fdiv_q_ui(t, p, 2 * n + 1);
+            mpz_mul_si(t, t, (n & 1) ? -k : k);
+            mpz_add(v, v, t);
+            mpz_fdiv_q_ui(p, p, x * x);
+        }
+        mpz_clears(p, t, nullptr);
+    }
+    std::string text(int digits)
+    {
+        char* s = mpz_get_str(nullptr, 10, v);
+        std::string d(s);
+        free(s);
+        int intDigits = static_cast<int>(d.size()) - w;  // 1, or 0 for a value below 1
+        TBigFloat f;
+        TBigFloat::parse(intDigits > 0 ? d.substr(0, size_t(intDigits)) + "," + d.substr(size_t(intDigits))
+                                       : "0," + std::string(size_t(-intDigits), '0') + d,
+                         f);
+        return f.format(digits);
+    }
+};
+}  // namespace
+
+TEST(BigFloat, ConstantsAtFourThousandDigitsByOtherSeries)
+{
+    // References summed with formulas different from ours (tolerance: none, the rounded text)
+    const int digits = 4000;
+    {
+        // pi/4 = 12 atan(1/49) + 32 atan(1/57) - 5 atan(1/239) + 12 atan(1/110443) (Takano)
+        Fixed f(digits);
+        f.addAtan(48, 49);
+        f.addAtan(128, 57);
+        f.addAtan(-20, 239);
+        f.addAtan(48, 110443);
+        EXPECT_EQ(opboxCompute("pi", "", "", digits).text, f.text(digits)) << "pi";
+    }
+    {
+        // e = sum 1/k!
+        Fixed f(digits);
+        mpz_t t;
+        mpz_init_set(t, f.scale);
+        for (unsigned long k = 1; mpz_sgn(t); ++k) {
+            mpz_add(f.v, f.v, t);
+            mpz_fdiv_q_ui(t, t, k);
+        }
+        mpz_clear(t);
+        EXPECT_EQ(opboxCompute("exp", "1", "", digits).text, f.text(digits)) << "e";
+    }
+    {
+        // ln 2 = sum 1/(k 2^k)
+        Fixed f(digits);
+        mpz_t p, t;
+        mpz_inits(p, t, nullptr);
+        mpz_fdiv_q_2exp(p, f.scale, 1);
+        for (unsigned long k = 1; mpz_sgn(p); ++k) {
+            mpz_fdiv_q_ui(t, p, k);
+            mpz_add(f.v, f.v, t);
+            mpz_fdiv_q_2exp(p, p, 1);
+        }
+        mpz_clears(p, t, nullptr);
+        EXPECT_EQ(opboxCompute("ln", "2", "", digits).text, f.text(digits)) << "ln 2";
+    }
+}
