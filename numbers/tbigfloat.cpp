@@ -139,6 +139,18 @@ std::string TBigFloat::format(int digits) const
 
 // ------------------------------------------------------------ basic arithmetic
 
+namespace {
+// a temporary from the pool, given back at the end of the scope
+struct PoolTmp {
+    TInteger* p = TIntegerPool::take();
+    ~PoolTmp() { TIntegerPool::give(p); }
+    PoolTmp() = default;
+    PoolTmp(const PoolTmp&) = delete;
+    PoolTmp& operator=(const PoolTmp&) = delete;
+    TInteger& operator*() { return *p; }
+};
+}  // namespace
+
 void BigFloatMath::add(const TBigFloat& a, const TBigFloat& b, TBigFloat& r) const
 {
     if (a.isZero()) {
@@ -207,11 +219,10 @@ BigFloatError BigFloatMath::div(const TBigFloat& a, const TBigFloat& b, TBigFloa
     TBigFloat x = a, y = b;
     y.truncTo(prec + 2);
     int k = prec + 2 + y.v.mantissa.decimalLength() - x.v.mantissa.decimalLength();
-    TInteger num;
-    TInteger::shiftDecimal(x.v.mantissa, k, num);
+    PoolTmp num, rem;
+    TInteger::shiftDecimal(x.v.mantissa, k, *num);
     TBigFloat q;
-    TInteger rem;
-    TInteger::divMod(num, y.v.mantissa, q.v.mantissa, rem);
+    TInteger::divMod(*num, y.v.mantissa, q.v.mantissa, *rem);
     q.v.exponent = x.v.exponent - k - y.v.exponent;
     q.truncTo(prec);
     r = q;
@@ -246,14 +257,14 @@ BigFloatError BigFloatMath::sqrt(const TBigFloat& a, TBigFloat& r) const
     double td = std::stod(top.toString());
     TInteger g(static_cast<int64_t>(std::sqrt(td)) + 1);
     TInteger::shiftDecimal(g, drop / 2, g);
-    TInteger q, rem, nx;
+    PoolTmp q, rem, nx;
     for (int it = 0;; ++it) {
-        TInteger::divMod(m, g, q, rem);
-        TInteger::add(g, q, nx);
-        TInteger::divSmall(nx, 2, nx);
-        if (it > 0 && TInteger::compareAbs(nx, g) >= 0)
+        TInteger::divMod(m, g, *q, *rem);
+        TInteger::add(g, *q, *nx);
+        TInteger::divSmall(*nx, 2, *nx);
+        if (it > 0 && TInteger::compareAbs(*nx, g) >= 0)
             break;
-        g = nx;
+        g = *nx;
     }
     TBigFloat s;
     s.v.mantissa = g;

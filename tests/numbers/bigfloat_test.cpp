@@ -140,6 +140,10 @@ TEST(TInteger, RadixPoolAndMessages)
     for (TInteger* p : many)
         TIntegerPool::give(p);
     EXPECT_EQ(TIntegerPool::available(), 25);
+    // a computation gives its temporaries back
+    opboxCompute("sqrt", "2", "", 100);
+    EXPECT_EQ(TIntegerPool::inUse(), 0);
+    EXPECT_EQ(TIntegerPool::available(), 25);
     tintegerMessage = nullptr;
 }
 
