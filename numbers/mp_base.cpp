@@ -19,6 +19,7 @@ int mp_t3m_cutoff = 300;
 int mp_sqr_cutoff = 96;
 int mp_t3s_cutoff = 300;
 int mp_div_cutoff = 300;
+int mp_fft_cutoff = 30000;  // the transforms overtake Toom-3 near 30000 digits (about 280000 decimal)
 int mp_radix_cutoff = 40;
 bool mp_show_plus = false;
 bool mp_gcd_use_mod = true;

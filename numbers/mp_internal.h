@@ -14,6 +14,9 @@ int s_cmp_mag_digs(const mp_digit* a, int na, const mp_digit* b, int nb);
 void s_mul_mag(const mp_int& x, const mp_int& y, mp_int& z);
 void s_sqr_mag(const mp_int& x, mp_int& z);
 
+// Product by number-theoretic transforms; false where the length is beyond the transforms.
+bool s_mul_fft(const mp_digit* a, int na, const mp_digit* b, int nb, mp_digit* r, bool square);
+
 // A precomputed reciprocal for repeated division by the same large divisor.
 struct mp_recip {
     mp_int d;    // the divisor, positive

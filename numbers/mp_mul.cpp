@@ -255,6 +255,8 @@ static void s_mul_rec(const mp_digit* a, int na, const mp_digit* b, int nb, mp_d
         }
         return;
     }
+    if (nb >= mp_fft_cutoff && s_mul_fft(a, na, b, nb, r, false))
+        return;
     if (nb >= mp_t3m_cutoff && nb > 2 * ((na + 2) / 3)) {
         s_toom3(a, na, b, nb, r, false);
         return;
@@ -286,6 +288,8 @@ static void s_sqr_rec(const mp_digit* a, int n, mp_digit* r, Arena ar)
         s_sqr_digs(a, n, r);
         return;
     }
+    if (n >= mp_fft_cutoff && s_mul_fft(a, n, a, n, r, true))
+        return;
     if (n >= mp_t3s_cutoff) {
         s_toom3(a, n, a, n, r, true);
         return;

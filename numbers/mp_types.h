@@ -67,6 +67,7 @@ extern int mp_mul_cutoff;     // Karatsuba from here (digits of the smaller oper
 extern int mp_t3m_cutoff;     // Toom-3 from here
 extern int mp_sqr_cutoff;     // Karatsuba squaring
 extern int mp_t3s_cutoff;     // Toom-3 squaring
+extern int mp_fft_cutoff;     // transform products from here
 extern int mp_div_cutoff;     // Newton division from this divisor size
 extern int mp_radix_cutoff;   // divide-and-conquer radix conversion from this size
 extern bool mp_show_plus;     // writer prints "+" for positive values

@@ -57,7 +57,7 @@ protected:
     }
 };
 
-const int kSizes[] = {1, 2, 3, 5, 15, 16, 17, 24, 31, 33, 63, 64, 95, 97, 128, 200, 333, 700, 1100, 2500};
+const int kSizes[] = {1, 2, 3, 5, 15, 16, 17, 24, 31, 33, 63, 64, 95, 97, 128, 200, 333, 700, 1100, 2500, 6000};
 
 }  // namespace
 
@@ -66,7 +66,7 @@ TEST_F(GmpCompare, ProductsAndSquaresOfManySizes)
     mp_tmp a, b, c;
     Z za, zb, zc, zr;
     for (int na : kSizes)
-        for (int nb : {1, 7, 24, 100, 400, 1100}) {
+        for (int nb : {1, 7, 24, 100, 400, 1100, 3000}) {
             randomSigned(a, na);
             randomSigned(b, nb);
             mp_mul(a, b, c);

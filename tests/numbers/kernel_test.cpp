@@ -141,10 +141,11 @@ TEST_F(Kernel, ResultsMayAliasOperands)
 
 TEST_F(Kernel, CrossoversGiveTheSchoolbookProduct)
 {
-    int saved[4] = {mp_mul_cutoff, mp_t3m_cutoff, mp_sqr_cutoff, mp_t3s_cutoff};
+    int saved[5] = {mp_mul_cutoff, mp_t3m_cutoff, mp_sqr_cutoff, mp_t3s_cutoff, mp_fft_cutoff};
     mp_tmp a, b, fast, slow;
-    for (auto cut : {std::pair{8, 16}, std::pair{16, 32}, std::pair{24, 96}, std::pair{40, 41}}) {
+    for (auto cut : {std::pair{8, 16}, std::pair{16, 32}, std::pair{24, 96}, std::pair{40, 41}, std::pair{8, 10000}}) {
         mp_mul_cutoff = mp_sqr_cutoff = cut.first;
+        mp_fft_cutoff = cut.second == 10000 ? 8 : 100000;  // the last round: transforms throughout
         mp_t3m_cutoff = mp_t3s_cutoff = cut.second;
         for (int na : {8, 16, 17, 31, 32, 33, 50, 97, 150, 301})
             for (int nb : {8, 16, 33, 64, 100, 301}) {
@@ -162,6 +163,19 @@ TEST_F(Kernel, CrossoversGiveTheSchoolbookProduct)
     mp_t3m_cutoff = saved[1];
     mp_sqr_cutoff = saved[2];
     mp_t3s_cutoff = saved[3];
+    mp_fft_cutoff = saved[4];
+    // digits at the top of their range, where the transform's coefficients are largest
+    mp_fft_cutoff = 8;
+    for (int n : {9, 100, 3000}) {
+        mp_grow(a, n);
+        for (int i = 0; i < n; ++i)
+            a.v.pdigits[i] = MP_MASK;
+        a.v.used = n;
+        mp_mul(a, a, fast);
+        s_mp_mul_school(a, a, slow);
+        ASSERT_TRUE(mp_is_eq(fast, slow)) << "all-ones square of " << n << " digits";
+    }
+    mp_fft_cutoff = saved[4];
 }
 
 TEST_F(Kernel, ExceptionsCarryTheirMessages)
