@@ -119,7 +119,7 @@ void TFGraph::FormCreate()
     datei->addAction("Speichern", this, &TFGraph::speichern);
     datei->addAction("Kopieren", this, &TFGraph::kopieren);
     datei->addAction("Drucken", this, &TFGraph::drucken);
-    links->setMenuBar(menue);
+    haupt->setMenuBar(menue);
     PB1_ = new Zeichenflaeche(this);
     PB1_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     links->addWidget(PB1_, 1);

@@ -94,6 +94,8 @@ void Graphzeichner::achsenbeschriftungX(Canvas& c, double e, int zeile)
                 breite += c.textWidth(std::string(1, ch));
             }
             int x = p - breite / 2;
+            if (x < 0 || x + breite > a_.plotWidth - 14)
+                continue;
             for (char ch : t) {
                 c.setFontName(ch == 'p' ? "Symbol" : "Verdana");
                 c.textOut(x, y, std::string(1, ch));
@@ -102,7 +104,11 @@ void Graphzeichner::achsenbeschriftungX(Canvas& c, double e, int zeile)
             c.setFontName("Verdana");
         } else {
             const std::string t = o.winkel ? zahlText(1, 1, k * e * 180 / kPi) + "\xB0" : vor + zahlText(1, 4, k * e);
-            c.textOut(p - c.textWidth(t) / 2, y, t);
+            const int w = c.textWidth(t);
+            // a number cut by the edge helps nobody; the right end belongs to the axis name
+            if (p - w / 2 < 0 || p + w / 2 > a_.plotWidth - 14)
+                continue;
+            c.textOut(p - w / 2, y, t);
         }
     }
 }
@@ -125,6 +131,8 @@ void Graphzeichner::achsenbeschriftungY(Canvas& c, double e, int spalte)
         const std::string t = vor + zahlText(1, 4, k * e);
         const int w = c.textWidth(t);
         const int x = spalte - w - 6 >= 2 ? spalte - w - 6 : spalte + 6;
+        if (r - hoehe / 2 < 14 || r + hoehe / 2 > a_.plotHeight)
+            continue;
         c.textOut(x, r - hoehe / 2, t);
     }
 }
@@ -213,8 +221,9 @@ void Graphzeichner::koordinatensystem(Canvas& c)
         achsenbeschriftungY(c, ey, spalte);
         if (xAchseSichtbar && yAchseSichtbar)
             c.textOut(ox - c.textWidth("0") - 4, oy + 3, "0");
-        c.textOut(W - c.textWidth("x") - 4, std::clamp(oy, 0, H - 40) + 8, (o.logAchsen & 1) ? "ln x" : "x");
-        c.textOut(std::clamp(ox, 0, W - 60) + 8, 2, (o.logAchsen & 2) ? "ln y" : "y");
+        const std::string xName = (o.logAchsen & 1) ? "ln x" : "x";
+        c.textOut(W - c.textWidth(xName) - 6, std::clamp(oy, 0, H - 40) + 10, xName);
+        c.textOut(std::clamp(ox, 0, W - 60) + 10, 0, (o.logAchsen & 2) ? "ln y" : "y");
     }
     if (o.rahmen) {
         c.setPenWidth(achsenbreite);

@@ -11,6 +11,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <memory>
 
 using namespace graphs;
@@ -178,6 +179,25 @@ TEST(Window, OptionsChangeThePictureAndItCanBeSaved)
     ASSERT_TRUE(w.speichernAls(QString(QUORIX_BUILD_DIR) + "/graphs_sinus_winkel.svg"));
     QImage geladen(QString(QUORIX_BUILD_DIR) + "/graphs_sinus_winkel.png");
     EXPECT_EQ(geladen.size(), mit.size());
+    // multiples of pi with the millimetre grid: the minor lines change the picture
+    child<QCheckBox>(&w, "CWinkel")->setChecked(false);
+    child<QCheckBox>(&w, "CQuadranten")->setChecked(false);
+    child<QCheckBox>(&w, "CBogen")->setChecked(true);
+    const QImage ohneMm = w.bild().image();
+    child<QCheckBox>(&w, "CMm")->setChecked(true);
+    EXPECT_NE(w.bild().image(), ohneMm);
+    ASSERT_TRUE(w.speichernAls(QString(QUORIX_BUILD_DIR) + "/graphs_sinus_bogenmass.png"));
+    // logarithmic x axis: ln of the labels, curve through EvalTermMode 1
+    child<QCheckBox>(&w, "CBogen")->setChecked(false);
+    child<QCheckBox>(&w, "CMm")->setChecked(false);
+    child<QCheckBox>(&w, "CLogX")->setChecked(true);
+    ASSERT_FALSE(w.zeichner().protokoll().empty());
+    const Abbildung& a = w.zeichner().abbildung();
+    // sin(exp(u)) at u = 1: the row of sin(e)
+    for (const Stiftschritt& s : w.zeichner().protokoll()[0].spur.schritte)
+        if (s.x == a.pixelX(1))
+            EXPECT_NEAR(s.y, a.pixelYgenau(std::sin(std::exp(a.xVonPixel(s.x)))), 1);
+    ASSERT_TRUE(w.speichernAls(QString(QUORIX_BUILD_DIR) + "/graphs_sinus_logx.png"));
 }
 
 TEST(Window, PageLinkOpensWithEqualUnits)
