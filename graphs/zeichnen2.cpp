@@ -315,9 +315,7 @@ void Graphzeichner::folge(Canvas& c, char b)
             continue;
         }
         const int px = a_.pixelX(k), py = a_.pixelY(v);
-        if (b == 'c' && !erster)
-            s.schritte.push_back({Stift::Linie, px, py});
-        s.schritte.push_back({Stift::Bewegen, px, py});
+        s.schritte.push_back({b == 'c' && !erster ? Stift::Linie : Stift::Bewegen, px, py});
         erster = false;
         c.setPenColor(farbe);
         c.moveTo(px - 3, py - 3);

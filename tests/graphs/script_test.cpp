@@ -334,3 +334,119 @@ TEST(PageLink, CurvesFillTheFieldsAndAskForEqualUnits)
     // a surface is not the plotter's
     EXPECT_FALSE(plotAuftragUebernehmen(lexicon::plotAuftragAusWert("Dsattel"), s, z2, gleich));
 }
+
+TEST(Script, CurveVariantsAndMarksOnTheLastCurve)
+{
+    Bild b({"#\xE4", "X/2", "#M", "rot", "2", "4", "...", "#N", "blau", "-2", "...", "#s", "(X^2-1)/(X-1)", "1", "...",
+            "#w", "gelb", "1", "-3", "...", "#m", "PI", "-1", "1/2", "-4", "...", "#e", "blau", "-5", "-4", "-3", "-4",
+            "-4", "-2", "..."});
+    const Abbildung& m = b.a();
+    ASSERT_EQ(b.von('\xE4').size(), 1u);
+    EXPECT_EQ(b.von('\xE4')[0]->breite, 3);
+    // M and N mark the curve drawn last, here X/2
+    ASSERT_EQ(b.von('M').size(), 2u);
+    EXPECT_EQ(b.von('M')[1]->spur.schritte[0].y, m.pixelY(2));
+    ASSERT_EQ(b.von('N').size(), 1u);
+    EXPECT_EQ(b.von('N')[0]->spur.schritte[0].y, m.pixelY(-1));
+    // s: the curve and a hollow mark at its gap (1, 2)
+    const auto s = b.von('s');
+    ASSERT_EQ(s.size(), 2u);
+    EXPECT_EQ(s[0]->label, "Y = (X^2-1)/(X-1)");
+    EXPECT_EQ(s[1]->spur.schritte[0].x, m.pixelX(1));
+    EXPECT_EQ(s[1]->spur.schritte[0].y, m.pixelY(2));
+    EXPECT_EQ(b.bild.pixel(m.pixelX(1), m.pixelY(2)), platform::clWhite);  // hollow
+    EXPECT_EQ(b.von('w')[0]->spur.schritte[0].y, m.pixelY(-3));
+    const auto mk = b.von('m');
+    ASSERT_EQ(mk.size(), 2u);
+    EXPECT_EQ(mk[0]->spur.schritte[0].x, m.pixelX(M_PI));
+    EXPECT_EQ(mk[1]->spur.schritte[0].x, m.pixelX(0.5));
+    // e: closed triangle, back at its first point
+    const auto e = b.von('e');
+    ASSERT_EQ(e.size(), 1u);
+    ASSERT_EQ(e[0]->spur.schritte.size(), 4u);
+    EXPECT_EQ(e[0]->spur.schritte[3].x, e[0]->spur.schritte[0].x);
+    EXPECT_EQ(e[0]->spur.schritte[3].y, e[0]->spur.schritte[0].y);
+}
+
+TEST(Script, AreasBetweenCurvesStripsAndTables)
+{
+    Bild b({"#V", "X", "X^2", "0", "1", "#k", "X", "-3", "-2", "#I", "X", "2", "4", "4", "2", "#\xED", "X", "-1", "0",
+            "2", "#x", "Nullstellen von f", "2", "0.5", "-1", "1", "...", "#U", "1", "-1"});
+    const Abbildung& m = b.a();
+    // V shades the columns between the two curves from 0 to 1 only
+    const auto v = b.von('V');
+    ASSERT_EQ(v.size(), 3u);
+    ASSERT_FALSE(v[0]->spur.schritte.empty());
+    EXPECT_GE(v[0]->spur.schritte.front().x, m.pixelX(0) - 1);
+    EXPECT_LE(v[0]->spur.schritte.back().x, m.pixelX(1) + 1);
+    EXPECT_TRUE(b.farbeBei(m.pixelX(0.5), m.pixelY(0.4), platform::rgb(180, 210, 255), 0));
+    // k fills between curve and axis
+    EXPECT_TRUE(b.farbeBei(m.pixelX(-2.5), m.pixelY(-1.5), platform::rgb(180, 210, 255), 0));
+    // I with midpoints: sum 2.5+3.5 = 6 for two strips of width 1
+    bool streifen = false, ober = false, tabelle = false;
+    for (const Beschriftung& t : b.g.beschriftungen()) {
+        if (t.text == "Streifensumme = 6")
+            streifen = true;
+        if (t.text == "Obersumme = -0.25")  // strips -1..-0.5, -0.5..0 of X: 0.5*(-0.5 + 0)
+            ober = true;
+        if (t.text == "Y-Faktor 0.5")
+            tabelle = true;
+    }
+    EXPECT_TRUE(streifen);
+    EXPECT_TRUE(ober);
+    EXPECT_TRUE(tabelle);
+    // the zeros of the table are marked on the x axis
+    const auto x = b.von('x');
+    ASSERT_EQ(x.size(), 2u);
+    EXPECT_EQ(x[1]->spur.schritte[0].x, m.pixelX(1));
+    // U over the whole width
+    const auto u = b.von('U');
+    ASSERT_EQ(u.size(), 3u);
+    EXPECT_LE(u[0]->spur.schritte.front().x, 0);
+    EXPECT_GE(u[0]->spur.schritte.back().x, m.plotWidth);
+}
+
+TEST(Script, CurveGroupsHelperLinesAndJoinedSequences)
+{
+    testApp();
+    PlotZustand z;
+    z.hilfslinien = {{-1, -1, 1, 1}, {0, 2, 3, 2}};
+    Skriptliste skript, zahlen;
+    for (const char* l : {"#u", "COS(X)", "SIN(X)", "#K", "", "0", "3.1416", "0.01", "0", "0", "#n", "X|X", "0", "1", "0.1",
+                          "0", "0", "#i", "X|-X", "0", "1", "0.1", "0", "0", "#p", "1", "0", "1", "0.1", "0", "0", "#y",
+                          "#c", "X", "1", "3", "", "0"})
+        skript.addText(l);
+    Graphzeichner g(z, skript, zahlen, termAuswerter());
+    platform::Picture bild(601, 501);
+    g.darstellung(bild);
+    const Abbildung& m = g.abbildung();
+    auto von = [&](char b) {
+        std::vector<const Gezeichnet*> r;
+        for (const auto& k : g.protokoll())
+            if (k.befehl == b)
+                r.push_back(&k);
+        return r;
+    };
+    // u put its terms into the fields; the blank K line takes them
+    ASSERT_EQ(von('K').size(), 1u);
+    EXPECT_EQ(von('K')[0]->label, "X = COS(X)   Y = SIN(X)");
+    EXPECT_EQ(termAuswerter().funktion(5), "COS(X)");
+    // n steps ten times finer: 101 samples of 0..1 instead of 11
+    ASSERT_EQ(von('n').size(), 1u);
+    EXPECT_EQ(von('n')[0]->spur.auswertungen, 2 * 101);
+    // i and p draw single points
+    EXPECT_TRUE(von('i')[0]->spur.polylinien().empty());
+    EXPECT_EQ(von('i')[0]->spur.einzelpunkte().size(), 11u);
+    EXPECT_TRUE(von('p')[0]->spur.polylinien().empty());
+    // y draws both helper lines
+    const auto y = von('y');
+    ASSERT_EQ(y.size(), 2u);
+    EXPECT_EQ(y[1]->spur.schritte[1].x, m.pixelX(3));
+    EXPECT_EQ(y[1]->spur.schritte[1].y, m.pixelY(2));
+    // c joins the members of the sequence
+    const auto c = von('c');
+    ASSERT_EQ(c.size(), 1u);
+    EXPECT_EQ(c[0]->spur.polylinien().size(), 1u);
+    EXPECT_EQ(c[0]->spur.polylinien()[0].size(), 3u);
+    termAuswerter().setzeFunktion(5, "");
+}
