@@ -426,7 +426,7 @@ void TFGraph::zoomen(bool hinein, double anteil)
 void TFGraph::S13C()
 {
     const int w = PB1_->width() + 1, h = PB1_->height() + 1;
-    z_.bereich = grundeinstellung(w, h, lexicon::einstellungen.xyIntervall);
+    z_.bereich = grundeinstellung(w, h, lexicon::einstellungen.maxfenster);
     felderSchreiben();
     Darstellung();
 }

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QWheelEvent>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -215,4 +216,26 @@ TEST(Window, PageLinkOpensWithEqualUnits)
     EXPECT_EQ(w->zeichner().protokoll()[0].befehl, 'P');
     EXPECT_FALSE(w->zeichner().protokoll()[0].spur.polylinien().empty());
     EXPECT_EQ(createTFGraphFuer(lexicon::plotAuftragAusWert("Kflaeche"), nullptr), nullptr);
+}
+
+TEST(Window, MouseAndWheelReachThePaintBox)
+{
+    neu();
+    ScriptAddFunction("X");
+    TFGraph w;
+    w.show();
+    QApplication::processEvents();
+    QWidget* pb = w.findChild<QWidget*>("PB1");
+    ASSERT_NE(pb, nullptr);
+    const Abbildung a = w.zeichner().abbildung();
+    // a wheel step down zooms in by a hundredth at each end
+    const QPointF mitte(pb->width() / 2.0, pb->height() / 2.0);
+    QWheelEvent rad(mitte, pb->mapToGlobal(mitte), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+    QApplication::sendEvent(pb, &rad);
+    EXPECT_NEAR(plotZustand().bereich.xmin, -6 + 0.12, 1e-12);
+    EXPECT_EQ(child<QLineEdit>(&w, "E6")->text(), "-5.88");
+    // a click shows the point with " | "
+    QTest::mouseClick(pb, Qt::LeftButton, Qt::NoModifier, QPoint(a.originX, a.originY));
+    EXPECT_EQ(w.statustext(), "0 | 0");
 }
