@@ -37,7 +37,7 @@ enum Box {
 
 // Field slots in E_: the spec's numbers E3..E14 map to E_[n].
 constexpr int eLow = 3, eHigh = 4, eXmin = 6, eXmax = 7, eYmin = 8, eYmax = 9, eXE = 10, eYE = 11, eP = 12,
-              eQ = 13, eSchritt = 14;
+              eQ = 13, eSchritt = 14, eScharVon = 15, eScharBis = 16, eScharSchritt = 17;
 
 QString q(const std::string& cp1252) { return platform::fromCp1252(cp1252); }
 std::string cp(const QString& s) { return platform::toCp1252(s); }
@@ -156,7 +156,11 @@ void TFGraph::FormCreate()
     paar("P", eP, "Q", eQ);
     g->addWidget(new QLabel("Schritt", this), zeile, 0);
     E_[eSchritt] = feld("E14", QString(), 60);
-    g->addWidget(E_[eSchritt], zeile++, 1);
+    g->addWidget(E_[eSchritt], zeile, 1);
+    g->addWidget(new QLabel("Scharschr.", this), zeile, 2);
+    E_[eScharSchritt] = feld("E17", QString(), 60);
+    g->addWidget(E_[eScharSchritt], zeile++, 3);
+    paar("Schar von", eScharVon, "bis", eScharBis);
     g->addWidget(new QLabel("von", this), zeile, 0);
     E_[eLow] = feld("E3", QString(), 60);
     g->addWidget(E_[eLow], zeile, 1);
@@ -276,6 +280,9 @@ void TFGraph::felderSchreiben()
     setze(E_[eP], termAuswerter().parameterP(), 3);
     setze(E_[eQ], termAuswerter().parameterQ(), 3);
     setze(E_[eSchritt], z_.animationStep);
+    setze(E_[eScharVon], z_.familieVon);
+    setze(E_[eScharBis], z_.familieBis);
+    setze(E_[eScharSchritt], z_.familieSchritt);
     setze(E_[eLow], z_.feldDomainLow);
     setze(E_[eHigh], z_.feldDomainHigh);
     EX_->setText(q(z_.feldX));
@@ -399,6 +406,11 @@ void TFGraph::D1C()
     t.setzeParameter(t.feldwert(cp(E_[eP]->text())), t.feldwert(cp(E_[eQ]->text())));
     const double schritt = t.feldwert(cp(E_[eSchritt]->text()));
     z_.animationStep = schritt != 0 ? schritt : 0.1;
+    z_.familieVon = t.feldwert(cp(E_[eScharVon]->text()));
+    z_.familieBis = t.feldwert(cp(E_[eScharBis]->text()));
+    z_.familieSchritt = t.feldwert(cp(E_[eScharSchritt]->text()));
+    if (!(z_.familieSchritt > 0))
+        z_.familieSchritt = 0.5;  // the family step of a script is 0.5 when not positive
     skriptAusTermfeld();
     felderSchreiben();
     Darstellung();

@@ -79,7 +79,7 @@ private:
     QLineEdit* E1_ = nullptr;  // the function terms, separated by ";"
     QLineEdit* EX_ = nullptr;  // x-term (parametric) or r-term (polar)
     QLineEdit* EY_ = nullptr;  // y-term
-    QLineEdit* E_[15] = {};    // E3, E4 domain; E6..E9 range; E10, E11 units; E12 P, E13 Q, E14 step
+    QLineEdit* E_[18] = {};  // E3, E4 domain; E6..E9 range; E10, E11 units; E12 P, E13 Q, E14 step; E15..E17 family
     QCheckBox* C_[17] = {};
     QSpinBox* TB4_ = nullptr;
     QPushButton* B1_ = nullptr;

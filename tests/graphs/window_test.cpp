@@ -239,3 +239,20 @@ TEST(Window, MouseAndWheelReachThePaintBox)
     QTest::mouseClick(pb, Qt::LeftButton, Qt::NoModifier, QPoint(a.originX, a.originY));
     EXPECT_EQ(w.statustext(), "0 | 0");
 }
+
+TEST(Window, FamilyFieldsGovernTheCommandS)
+{
+    neu();
+    ScriptAddText("#S");
+    ScriptAddText("X+P");
+    TFGraph w;
+    w.show();
+    QApplication::processEvents();
+    EXPECT_EQ(w.zeichner().curveCounter(), 9);  // -2 .. 2 by 0.5
+    setzen(&w, "E15", "0");
+    setzen(&w, "E16", "3");
+    setzen(&w, "E17", "0");  // not positive: 0.5
+    QTest::mouseClick(child<QPushButton>(&w, "D1"), Qt::LeftButton);
+    EXPECT_EQ(w.zeichner().curveCounter(), 7);
+    EXPECT_EQ(child<QLineEdit>(&w, "E17")->text(), "0.5");
+}
