@@ -161,7 +161,7 @@ void TFGraph::FormCreate()
     E_[eScharSchritt] = feld("E17", QString(), 60);
     g->addWidget(E_[eScharSchritt], zeile++, 3);
     paar("Schar von", eScharVon, "bis", eScharBis);
-    g->addWidget(new QLabel("von", this), zeile, 0);
+    g->addWidget(new QLabel("Def. von", this), zeile, 0);
     E_[eLow] = feld("E3", QString(), 60);
     g->addWidget(E_[eLow], zeile, 1);
     g->addWidget(new QLabel("bis", this), zeile, 2);
@@ -188,8 +188,10 @@ void TFGraph::FormCreate()
     pfeile->addWidget(knopf("S8", "+", [this] { zoomen(true, 0.1); }), 0, 3);
     pfeile->addWidget(knopf("S9", "\xE2\x88\x92", [this] { zoomen(false, 0.1); }), 2, 3);
     rechts->addLayout(pfeile);
-    rechts->addWidget(knopf("S13", "Grundeinstellung", [this] { S13C(); }));
-    rechts->addWidget(knopf("S31", "y-Aufl\xC3\xB6sung anpassen", [this] { S31C(); }));
+    auto* grund = new QHBoxLayout;
+    grund->addWidget(knopf("S13", "Grundeinstellung", [this] { S13C(); }));
+    grund->addWidget(knopf("S31", "y-Aufl\xC3\xB6sung anpassen", [this] { S31C(); }));
+    rechts->addLayout(grund);
 
     static const char* boxNamen[bAnzahl][2] = {
         {"CAchsen", "Achsen"}, {"CRahmen", "Koordinatenrahmen"}, {"CRaster", "Raster"}, {"CMm", "mm"},
@@ -249,8 +251,8 @@ void TFGraph::FormCreate()
     ablage->addWidget(knopf("BSpeichern", "Speichern", [this] { speichern(); }));
     ablage->addWidget(knopf("BKopieren", "Kopieren", [this] { kopieren(); }));
     ablage->addWidget(knopf("BDrucken", "Drucken", [this] { drucken(); }));
+    ablage->addWidget(knopf("BEnde", "Beenden", [this] { close(); }));
     rechts->addLayout(ablage);
-    rechts->addWidget(knopf("BEnde", "Beenden", [this] { close(); }));
     rechts->addStretch(1);
     haupt->addLayout(rechts);
 

@@ -49,6 +49,7 @@ TEST(Window, CaptionFieldsAndPicture)
     EXPECT_EQ(d->size(), QSize(1008, 710));
     d->show();
     QApplication::processEvents();
+    EXPECT_EQ(d->size(), QSize(1008, 710));  // the controls fit without growing the window
     EXPECT_EQ(child<QLineEdit>(d.get(), "E1")->text(), "X^2;1/X");
     EXPECT_EQ(child<QLineEdit>(d.get(), "E6")->text(), "-6");
     auto* w = static_cast<TFGraph*>(d.get());
