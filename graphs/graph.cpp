@@ -35,7 +35,7 @@ enum Box {
     bPunkt, bDicht, bLogX, bLogY, bDefinition, bFrei, bAnzahl
 };
 
-// Field slots in E_: the spec's numbers E3..E14 map to E_[n].
+// Field slots in E_: the field En sits at E_[n].
 constexpr int eLow = 3, eHigh = 4, eXmin = 6, eXmax = 7, eYmin = 8, eYmax = 9, eXE = 10, eYE = 11, eP = 12,
               eQ = 13, eSchritt = 14, eScharVon = 15, eScharBis = 16, eScharSchritt = 17;
 

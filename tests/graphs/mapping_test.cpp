@@ -130,7 +130,7 @@ TEST(Palette, PenWidthFromBreite)
     EXPECT_EQ(stiftbreite(0), 1);
 }
 
-TEST(Labels, ThirtyPositionsFromTheSpecifiedRule)
+TEST(Labels, ThirtyPositionsResetToTheirColumn)
 {
     PlotZustand z;
     z.labels[4] = {300, 300};
