@@ -5,6 +5,8 @@
 #include "app/lint.h"
 #include "astronomy/commands.h"
 #include "crypto/commands.h"
+#include "graphs/commands.h"
+#include "numbers/commands.h"
 #include "kernel/commands.h"
 #include "platform/commands.h"
 #include "kernel/headless.h"
@@ -262,7 +264,7 @@ std::vector<quorix::HeadlessCommand> alleBefehle()
 {
     std::vector<quorix::HeadlessCommand> alle = appCommands();
     for (auto* satz : {&kernel::kernelCommands, &platform::platformCommands, &crypto::cryptoCommands,
-                       &::astronomyCommands}) {
+                       &::astronomyCommands, &::numbersCommands, &graphs::graphsCommands}) {
         auto mehr = satz();
         alle.insert(alle.end(), mehr.begin(), mehr.end());
     }

@@ -4,6 +4,7 @@
 #include "app/einstellungen.h"
 #include "app/teilprogramm.h"
 #include "app/usuche.h"
+#include "graphs/windows.h"
 #include "lexicon/suche.h"
 #include "lexicon/datenpfad.h"
 #include "lexicon/einstellungen.h"
@@ -856,11 +857,10 @@ void TForm1::PB1D(int x, int y)
             // The plotter reads the plot list when it opens; it joins with its own tool.
             lexicon::PlotAuftrag p = lexicon::plotAuftragAusWert(a.wert);
             if (p.flaeche) {
-                lexicon::werkzeugnummer = 89;
+                lexicon::werkzeugnummer = 89;  // the surface tool reads flaechenname
                 teilprogrammstarten(this);
-            } else {
-                lexicon::werkzeugnummer = 4;
-                teilprogrammstarten(this);
+            } else if (!headless_) {
+                graphs::plotAuftragOeffnen(p, this);
             }
             NeueSeite();
             break;
