@@ -212,7 +212,7 @@ cplx complexZeta(cplx s, bool& failed)
         failed = true;
         return 0;
     }
-    if (s.real() < 0.5) {  // functional equation
+    if (s.real() < 0) {  // functional equation; the series below holds for re(s) >= 0
         bool f1 = false, f2 = false;
         const cplx g = complexGamma(1.0 - s, f1);
         const cplx z = complexZeta(1.0 - s, f2);
