@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <string_view>
 #include <vector>
@@ -209,29 +210,24 @@ struct Walker {
 
     C number()
     {
+        std::string buf;
         int e = pos;
-        char buf[64];
-        int n = 0;
         while (e <= len) {
             const unsigned char c = at(e);
             if (!((c >= '0' && c <= '9') || c == '.' || c == 0xE9))
                 break;
-            if (n < 62)
-                buf[n++] = c == 0xE9 ? 'e' : static_cast<char>(c);
+            buf += c == 0xE9 ? 'e' : static_cast<char>(c);
             ++e;
         }
-        const int runLength = e - pos;
         pos = e;
+        if (buf[0] == '.')
+            buf.insert(buf.begin(), '0');
         double v = 0;
-        const char* b = buf;
-        std::string tmp;
-        if (buf[0] == '.') {
-            tmp = "0" + std::string(buf, n);
-            b = tmp.data();
-            n = static_cast<int>(tmp.size());
-        }
-        auto res = std::from_chars(b, b + n, v, std::chars_format::general);
-        if (runLength >= 62 || res.ec != std::errc() || res.ptr != b + n || buf[n - 1] == 'e')
+        const char* b = buf.data();
+        auto res = std::from_chars(b, b + buf.size(), v, std::chars_format::general);
+        if (res.ec == std::errc::result_out_of_range)
+            return std::strtod(b, nullptr);
+        if (res.ec != std::errc() || res.ptr != b + buf.size() || buf.back() == 'e')
             return failed(1);
         return v;
     }

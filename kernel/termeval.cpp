@@ -8,6 +8,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <string_view>
 #include <vector>
@@ -31,6 +32,8 @@ namespace {
 constexpr double kPi = 3.14159265358979323846;
 constexpr int kMaxSlotDepth = 32;       // F1..F5 calling each other; beyond that: syntax error
 constexpr int kMaxBracketDepth = 1000;  // keeps absurd nesting off the machine stack
+constexpr long kMaxSlotCalls = 100000;  // F1..F5 calls within one outer call: "F1(X)+F1(X)" in F1
+long g_slotCalls = 0;
 
 const double kConstants[7] = {2.506628274631, 0.3183098861837907, 9.869604401089358, 1.772453850906,
                               0.367879441171, 7.38905609893, 1.6487212707};
@@ -100,42 +103,39 @@ int priorityOf(unsigned char c)
 
 bool isNumberChar(unsigned char c) { return (c >= '0' && c <= '9') || c == '.' || c == 0xE9; }
 
-// The platform's decimal conversion of a run of digits, "." and the exponent letter "é".
+// The platform's decimal conversion of a run of digits, "." and the exponent letter "é". It
+// runs once per literal and term (the result is kept), so a string buffer costs nothing later.
 bool convertNumber(const char* p, int n, double& v)
 {
-    char buf[64];
-    if (n <= 0 || n >= static_cast<int>(sizeof buf))
-        return false;
+    std::string buf;
+    buf.reserve(n + 1);
     int digits = 0, dots = 0, exps = 0, expDigits = 0;
     for (int i = 0; i < n; ++i) {
-        unsigned char c = static_cast<unsigned char>(p[i]);
+        const unsigned char c = static_cast<unsigned char>(p[i]);
         if (c == 0xE9) {
             if (exps++ || digits == 0)
                 return false;
-            buf[i] = 'e';
+            buf += 'e';
         } else {
             if (c == '.' && (dots++ || exps))
                 return false;
             if (c != '.')
                 (exps ? expDigits : digits)++;
-            buf[i] = static_cast<char>(c);
+            buf += static_cast<char>(c);
         }
     }
     if (digits == 0 || (exps && expDigits == 0))
         return false;
-    buf[n] = 0;
-    const char* b = buf;
-    if (buf[0] == '.') {  // from_chars wants a digit first
-        std::memmove(buf + 1, buf, n + 1);
-        buf[0] = '0';
-        ++n;
-    }
-    auto res = std::from_chars(b, buf + n, v, std::chars_format::general);
+    if (buf[0] == '.')  // from_chars wants a digit first
+        buf.insert(buf.begin(), '0');
+    const char* b = buf.data();
+    const char* e = b + buf.size();
+    auto res = std::from_chars(b, e, v, std::chars_format::general);
     if (res.ec == std::errc::result_out_of_range) {
-        v = std::strtod(buf, nullptr);  // overflow to infinity, underflow to 0, as the FPU would
+        v = std::strtod(b, nullptr);  // overflow to infinity, underflow to 0, as the FPU would
         return true;
     }
-    return res.ec == std::errc() && res.ptr == buf + n;
+    return res.ec == std::errc() && res.ptr == e;
 }
 
 double power(double a, double b, bool root);
@@ -513,6 +513,12 @@ double evalTermAt(const char* term, int length, double x, int depth)
         }
     }
     if (length == 0) {
+        TermError = 1;
+        return 0;
+    }
+    if (depth == 0)
+        g_slotCalls = 0;
+    else if (++g_slotCalls > kMaxSlotCalls) {
         TermError = 1;
         return 0;
     }
