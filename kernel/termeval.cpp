@@ -49,6 +49,7 @@ struct Memo {
 struct CacheEntry {
     std::string source;
     std::string norm;
+    std::string text;  // norm with three NULs behind it
     std::vector<Memo> memo;
     bool valid = false;
 };
@@ -81,25 +82,31 @@ void normalise(CacheEntry& e)
     // A sign binds tighter than ^; only this one spelling is mended inside the term.
     for (std::size_t p = s.find("(-X^"); p != std::string::npos; p = s.find("(-X^", p))
         s.insert(p + 1, 1, '0');
-    e.memo.assign(s.size() + 2, Memo{});
+    e.text = s;
+    e.text.append(3, '\0');
+    e.memo.assign(s.size() + 4, Memo{});
     e.valid = true;
 }
 
-int priorityOf(unsigned char c)
-{
-    switch (c) {
-    case '+': case '-': case '#': case '&': case ';': case '<': case '>':
-        return 1;
-    case '*': case 0xB7: case '/': case '%': case '~':
-        return 2;
-    case '^': case '\\':
-        return 3;
-    case ')': case ']': case '|':
-        return 0;
-    default:
-        return -1;
+// Operator priorities by character; -1 marks a character that is no operator.
+struct PriorityTable {
+    signed char p[256];
+    constexpr PriorityTable() : p{}
+    {
+        for (int i = 0; i < 256; ++i)
+            p[i] = -1;
+        for (unsigned char c : {'+', '-', '#', '&', ';', '<', '>'})
+            p[c] = 1;
+        for (unsigned char c : {'*', '/', '%', '~'})
+            p[c] = 2;
+        p[0xB7] = 2;
+        p['^'] = p['\\'] = 3;
+        p[')'] = p[']'] = p['|'] = 0;
     }
-}
+};
+constexpr PriorityTable kPriority;
+
+inline int priorityOf(unsigned char c) { return kPriority.p[c]; }
 
 bool isNumberChar(unsigned char c) { return (c >= '0' && c <= '9') || c == '.' || c == 0xE9; }
 
@@ -148,16 +155,16 @@ struct Walker {
     double x;
     int depth;  // F-slot depth
     Memo* memo;
-    unsigned char op = 0;  // operator being applied
-    int prio = 0;
     unsigned char nop = 0;  // operator just read
     int nprio = 0;
     int brackets = 0;
 
-    unsigned char at(int p) const { return p >= 1 && p <= len ? static_cast<unsigned char>(s[p - 1]) : 0; }
+    // The text is followed by NUL characters (see evalTermAt), so a look-ahead of up to three
+    // places behind the end reads 0 without a bound test.
+    unsigned char at(int p) const { return static_cast<unsigned char>(s[p - 1]); }
 
     // The last character of the term is never read as an operator.
-    void readOp()
+    [[gnu::always_inline]] void readOp()
     {
         if (pos < len) {
             nop = static_cast<unsigned char>(s[pos - 1]);
@@ -173,47 +180,45 @@ struct Walker {
         }
     }
 
+    // Priority climbing. The rules are told recursively (a signed factor, a combiner that saves
+    // the operator being applied on a stack); this is the same walk with the stack of saved
+    // records kept here: equal priorities group to the left, so the stack only ever holds
+    // rising priorities, three at most, and operands and operators are taken in the same order.
     double expression()
     {
-        double v = signedFactor();
-        while (nprio > 0)
-            v = combine(v);
-        return v;
-    }
-
-    double signedFactor()
-    {
-        bool neg = false;
-        if (at(pos) == '-') {
-            neg = true;
-            ++pos;
-        }
-        double v = primary();
-        if (neg)
-            v = -v;
+        double values[4];
+        unsigned char ops[4];
+        int prios[4];
+        int n = 0;
+        double v = signedPrimary();
         readOp();
-        while (nprio > prio)
-            v = combine(v);
-        return v;
+        for (;;) {
+            while (n > 0 && prios[n - 1] >= nprio) {
+                --n;
+                v = apply(ops[n], values[n], v);
+            }
+            if (nprio == 0)
+                return v;
+            values[n] = v;
+            ops[n] = nop;
+            prios[n] = nprio;
+            ++n;
+            v = signedPrimary();
+            readOp();
+        }
     }
 
-    double combine(double left)
+    // A single "-" is applied to the primary at once: inside a term -X^2 is (-X)^2.
+    [[gnu::always_inline]] double signedPrimary()
     {
-        const unsigned char savedOp = op;
-        const int savedPrio = prio;
-        double acc = left;
-        do {
-            op = nop;
-            prio = nprio;
-            double right = signedFactor();
-            acc = apply(op, acc, right);
-        } while (nprio >= prio);
-        op = savedOp;
-        prio = savedPrio;
-        return acc;
+        if (at(pos) == '-') {
+            ++pos;
+            return -primary();
+        }
+        return primary();
     }
 
-    double nested()
+    [[gnu::noinline]] double nested()
     {
         if (++brackets > kMaxBracketDepth) {
             TermError = 1;
@@ -226,7 +231,7 @@ struct Walker {
         return v;
     }
 
-    double number()
+    [[gnu::always_inline]] double number()
     {
         Memo& m = memo[pos];
         if (m.kind == 0) {
@@ -245,7 +250,7 @@ struct Walker {
         return m.value;
     }
 
-    double call()
+    [[gnu::noinline]] double call()
     {
         Memo& m = memo[pos];
         if (m.kind == 0) {
@@ -253,7 +258,7 @@ struct Walker {
             int nameLen = open ? static_cast<int>(open - (s + pos - 1)) : len - pos + 1;
             m.kind = 3;
             m.fn = termintern::lookupFunction(s + pos - 1, nameLen);
-            m.next = pos + nameLen + 1;
+            m.next = open ? pos + nameLen + 1 : len + 1;
         }
         pos = m.next;
         const Fn fn = m.fn;
@@ -271,9 +276,18 @@ struct Walker {
         return termintern::applyFunction(fn, a, x, depth);
     }
 
-    double primary()
+    [[gnu::always_inline]] double primary()
     {
         const unsigned char c = at(pos);
+        // The common primaries first, as plain tests: far cheaper than a mispredicted jump table.
+        if (c == 'X') {
+            ++pos;
+            return x;
+        }
+        if ((c >= '0' && c <= '9') || c == '.')
+            return number();
+        if (c == '(')
+            return nested();
         switch (c) {
         case '0': case '1': case '2': case '3': case '4': case '5': case '6': case '7': case '8':
         case '9': case '.':
@@ -328,6 +342,14 @@ struct Walker {
 
     double apply(unsigned char o, double a, double b)
     {
+        if (o == '+')
+            return a + b;
+        if (o == '-')
+            return a - b;
+        if (o == '*' && std::fabs(a) < TermClamp && std::fabs(b) < TermClamp)
+            return a * b;
+        if (o == '/' && b != 0)
+            return a / b;
         switch (o) {
         case '+':
             return a + b;
@@ -527,12 +549,13 @@ double evalTermAt(const char* term, int length, double x, int depth)
         return 0;
     }
     CacheEntry& e = g_cache[depth];
-    if (!e.valid || std::string_view(e.source) != std::string_view(term, length)) {
+    if (!e.valid || static_cast<int>(e.source.size()) != length ||
+        std::memcmp(e.source.data(), term, length) != 0) {
         e.source.assign(term, length);
         normalise(e);
     }
     TermError = 0;
-    Walker w{e.norm.data(), static_cast<int>(e.norm.size()), 1, x, depth, e.memo.data()};
+    Walker w{e.text.data(), static_cast<int>(e.norm.size()), 1, x, depth, e.memo.data()};
     double v = w.expression();
     if (v > TermClamp) {
         v = TermClamp;
