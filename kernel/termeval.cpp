@@ -54,8 +54,18 @@ struct CacheEntry {
     bool valid = false;
 };
 
-// One entry per F-slot depth, so a nested call never evicts the text its caller is walking.
-CacheEntry g_cache[kMaxSlotDepth + 1];
+// Two entries per F-slot depth: a nested call never evicts the text its caller is walking, and
+// two terms used in turn (two curves, or EvalTermMode's "EXP(X)") both stay normalised.
+struct CacheLevel {
+    CacheEntry entry[2];
+    int last = 0;
+};
+CacheLevel g_cache[kMaxSlotDepth + 1];
+
+bool holds(const CacheEntry& e, const char* term, int length)
+{
+    return e.valid && static_cast<int>(e.source.size()) == length && std::memcmp(e.source.data(), term, length) == 0;
+}
 
 void normalise(CacheEntry& e)
 {
@@ -548,12 +558,17 @@ double evalTermAt(const char* term, int length, double x, int depth)
         TermError = 1;
         return 0;
     }
-    CacheEntry& e = g_cache[depth];
-    if (!e.valid || static_cast<int>(e.source.size()) != length ||
-        std::memcmp(e.source.data(), term, length) != 0) {
-        e.source.assign(term, length);
-        normalise(e);
+    CacheLevel& level = g_cache[depth];
+    int k = level.last;
+    if (!holds(level.entry[k], term, length)) {
+        k = 1 - k;
+        if (!holds(level.entry[k], term, length)) {
+            level.entry[k].source.assign(term, length);
+            normalise(level.entry[k]);
+        }
+        level.last = k;
     }
+    CacheEntry& e = level.entry[k];
     TermError = 0;
     Walker w{e.text.data(), static_cast<int>(e.norm.size()), 1, x, depth, e.memo.data()};
     double v = w.expression();

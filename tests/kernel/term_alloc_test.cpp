@@ -36,4 +36,13 @@ TEST(TermAllocation, RepeatedEvaluationAllocatesNothing)
         EXPECT_EQ(g_allocations.load() - before, 0) << t << " (" << sink << ")";
     }
     TermFunctionSlots = {};
+    // Two terms in turn, and the logarithmic mode that evaluates "EXP(X)" in between.
+    EvalTermMode("SIN(X)+X^2", 1, 0.5);
+    EvalTerm("COS(X)", 0.5);
+    const long before = g_allocations.load();
+    for (int i = 0; i < 1000; ++i) {
+        EvalTermMode("SIN(X)+X^2", 1, 0.001 * i);
+        EvalTerm("COS(X)", 0.001 * i);
+    }
+    EXPECT_EQ(g_allocations.load() - before, 0);
 }
