@@ -32,7 +32,7 @@ namespace {
 constexpr double kPi = 3.14159265358979323846;
 constexpr int kMaxSlotDepth = 32;       // F1..F5 calling each other; beyond that: syntax error
 constexpr int kMaxBracketDepth = 1000;  // keeps absurd nesting off the machine stack
-constexpr long kMaxSlotCalls = 100000;  // F1..F5 calls within one outer call: "F1(X)+F1(X)" in F1
+constexpr long kMaxSlotCalls = 10000;  // F1..F5 calls within one outer call: "F1(X)+F1(X)" in F1
 long g_slotCalls = 0;
 
 const double kConstants[7] = {2.506628274631, 0.3183098861837907, 9.869604401089358, 1.772453850906,

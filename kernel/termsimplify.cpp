@@ -202,9 +202,11 @@ void onePass(std::string& t)
         t.erase(0, 1);
     if (endsWith(t, "+0") || endsWith(t, "*1") || endsWith(t, "-0"))
         t.erase(t.size() - 2);
-    if (startsWith(t, "0+") && !(t.size() > 2 && t[2] == '-' && signGrabsPower("(" + t.substr(2), 1, 2)))
+    // A sign left at the head becomes a subtraction ("0-"): not if its factor is raised.
+    const bool headSignRaised = t.size() > 2 && t[2] == '-' && factorEnd(t, 3) < t.size() && t[factorEnd(t, 3)] == '^';
+    if (startsWith(t, "0+") && !headSignRaised)
         t.erase(0, 2);
-    else if (startsWith(t, "1*") && !(t.size() > 2 && t[2] == '-' && signGrabsPower("(" + t.substr(2), 1, 2)))
+    else if (startsWith(t, "1*") && !headSignRaised)
         t.erase(0, 2);
     else if (startsWith(t, "0-"))
         t.erase(0, 1);
@@ -263,7 +265,11 @@ void finalTouches(std::string& t)
             t.erase(p, 1);
         }
     }
-    replaceWhere(t, "-(X+1))", "-X-1)");
+    // Only where the minus subtracts or stands behind a bracket: behind ^, * or / it is a sign
+    // of the whole bracket.
+    replaceWhere(t, "-(X+1))", "-X-1)", [](const std::string& s, std::size_t p) {
+        return p == 0 || s[p - 1] == '(' || isOperandEnd(static_cast<unsigned char>(s[p - 1]));
+    });
     if (startsWith(t, "(-1)") && !(t.size() > 4 && t[4] == '^')) {
         t.erase(3, 1);
         t.erase(0, 1);

@@ -176,7 +176,8 @@ TEST(SimplifyText, CleanUpsKeepTheValue)
 TEST(SimplifyText, NoBareSignBeforeAPower)
 {
     // Inside a term -F^2 is (-F)^2: these must not lose their factor or bracket.
-    for (const char* in : {"X*(-1*SIN(X)^2)", "X+-SIN(X)^2", "X--SIN(X)^2", "(1*-X^2)", "(0-SIN(X)^2)"}) {
+    for (const char* in : {"X*(-1*SIN(X)^2)", "X+-SIN(X)^2", "X--SIN(X)^2", "(1*-X^2)", "(0-SIN(X)^2)",
+                           "2^-(X+1))", "2*(-(X)^2)", "(-1*X^2)+1", "1*-X^2", "0+-X^2"}) {
         std::string t = in;
         SimplifyTerm(t);
         for (double x : {0.4, 1.1, 2.3}) {
@@ -184,4 +185,49 @@ TEST(SimplifyText, NoBareSignBeforeAPower)
             EXPECT_NEAR(EvalTerm(t, x), before, 1e-12) << in << " -> " << t;
         }
     }
+}
+
+namespace {
+
+// Random texts of the kind the printer writes: factors 0, 1, -1, 2, X, SIN(X), COS(X), brackets,
+// signs behind brackets and operators.
+std::string randomText(std::uint32_t& seed, int depth)
+{
+    auto next = [&seed](int n) {
+        seed = seed * 1664525u + 1013904223u;
+        return static_cast<int>((seed >> 8) % n);
+    };
+    static const char* const factors[] = {"0", "1", "2", "X", "SIN(X)", "COS(X)", "(-1)", "-1", "-X"};
+    if (depth <= 0 || next(3) == 0)
+        return factors[next(9)];
+    static const char ops[] = {'+', '-', '*', '/', '^'};
+    std::string l = randomText(seed, depth - 1), r = randomText(seed, depth - 1);
+    const char op = ops[next(5)];
+    std::string t = l + op + r;
+    if (next(2))
+        t = (next(3) == 0 ? "(-" : "(") + t + ")";
+    return t;
+}
+
+}  // namespace
+
+TEST(SimplifyText, RandomPrinterTextsKeepTheirValue)
+{
+    std::uint32_t seed = 20261122;
+    int compared = 0;
+    for (int i = 0; i < 3000; ++i) {
+        const std::string in = randomText(seed, 4);
+        std::string out = in;
+        SimplifyTerm(out);
+        for (double x : {0.37, 1.21}) {
+            const double before = EvalTerm(in, x);
+            if (TermError != 0 || !std::isfinite(before) || std::fabs(before) > 1e6)
+                continue;
+            const double after = EvalTerm(out, x);
+            ASSERT_EQ(TermError, 0) << in << " -> " << out;
+            ASSERT_NEAR(after, before, 1e-9 * std::max(1.0, std::fabs(before))) << in << " -> " << out << " at " << x;
+            ++compared;
+        }
+    }
+    EXPECT_GT(compared, 1000);
 }
