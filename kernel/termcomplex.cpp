@@ -335,7 +335,7 @@ unsigned char EvalComplexTerm(const std::string& term, TermComplex z, TermComple
         t.insert(p + 1, 1, '0');
     t.erase(std::remove(t.begin(), t.end(), ' '), t.end());
     if (t.empty())
-        t = " ";
+        t.push_back(' ');  // a term of blanks only: a syntax error below
     if (t[0] == '-' || t[0] == '+')
         t.insert(t.begin(), '0');
     ComplexTermError = 0;
