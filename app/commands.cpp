@@ -8,6 +8,8 @@
 #include "graphs/commands.h"
 #include "numbers/commands.h"
 #include "kernel/commands.h"
+#include "kernel/term.h"
+#include "kernel/termcommands.h"
 #include "platform/commands.h"
 #include "kernel/headless.h"
 #include "lexicon/einstellungen.h"
@@ -238,6 +240,20 @@ int cmdLint(quorix::Args args, std::ostream& out, std::ostream& err)
     TForm1 f(true);
     fensterZeigen(f, 1008, f.height());
     f.B2C();
+    // An F: term counts as rejected when the interpreter reports a syntax fault at any point.
+    lintTermPruefen = [](const std::string& term) {
+        std::string t = term;
+        while (!t.empty() && t[0] == ' ')
+            t.erase(0, 1);
+        for (char& c : t)
+            c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+        for (double x : {0.5, 1.7, -2.3}) {
+            quorix::EvalTerm(t, x);
+            if (quorix::TermError == 1)
+                return false;
+        }
+        return true;
+    };
     const int n = lexikonPruefen(f, out);
     if (n > 0)
         err << n << " Probleme gefunden\n";
@@ -263,7 +279,7 @@ std::vector<quorix::HeadlessCommand> appCommands()
 std::vector<quorix::HeadlessCommand> alleBefehle()
 {
     std::vector<quorix::HeadlessCommand> alle = appCommands();
-    for (auto* satz : {&kernel::kernelCommands, &platform::platformCommands, &crypto::cryptoCommands,
+    for (auto* satz : {&kernel::kernelCommands, &quorix::termCommands, &platform::platformCommands, &crypto::cryptoCommands,
                        &::astronomyCommands, &::numbersCommands, &graphs::graphsCommands}) {
         auto mehr = satz();
         alle.insert(alle.end(), mehr.begin(), mehr.end());

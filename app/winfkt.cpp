@@ -3,7 +3,10 @@
 #include "app/builtin.h"
 #include "app/einstellungen.h"
 #include "app/teilprogramm.h"
+#include "app/tfo3.h"
 #include "app/usuche.h"
+#include "kernel/term.h"
+#include "kernel/termderiv.h"
 #include "graphs/windows.h"
 #include "lexicon/suche.h"
 #include "lexicon/datenpfad.h"
@@ -149,6 +152,17 @@ void TForm1::FormCreate(bool headless)
         myexceptionhandler("Datei nicht gefunden: quorix.ini");
     lexicon::einstellungenLesen(einstellungen, ini);
     kernel::UseDecimalComma = einstellungen.komma;
+    // Every numeric field reads terms; the rewrite list tidies derivatives.
+    lexicon::feldWertLesen = [](const std::string& s, bool& ok) {
+        const double v = quorix::ReadTermValue(s);
+        ok = true;
+        return v;
+    };
+    try {
+        quorix::SetTermRewriteList(platform::loadTextResource(lexicon::lexikonpfad + "texte.dll", "10", "wverein"));
+    } catch (const std::exception&) {
+        quorix::SetTermRewriteList({});
+    }
     platform::setTextResourceFile(lexicon::lexikonpfad + "textx.dll");
     platform::setPictureDirectory(lexicon::bildpfad);
 
@@ -916,10 +930,17 @@ void TForm1::PB1D(int x, int y)
             letzteseite_ = std::max(0, letzteseite_ - 1);
             NeueSeite();
             break;
-        case KlickAktion::Lexikonrechnung:
-            letzteAktion_ = "rechnung:" + a.wert;  // TFo3 joins with the term interpreter
+        case KlickAktion::Lexikonrechnung: {
+            letzteAktion_ = "rechnung:" + a.wert;
+            if (!headless_) {
+                const auto& l = linkfeld_[static_cast<size_t>(a.linkIndex)];
+                TFo3 d(a.wert, this);
+                d.move(PBox1->mapToGlobal(QPoint(l.x1, l.y1 + 24)));
+                d.exec();
+            }
             LB1C();
             break;
+        }
         case KlickAktion::Nichts:
             break;
         }
