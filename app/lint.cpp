@@ -104,7 +104,9 @@ int lexikonPruefen(TForm1& form, std::ostream& out)
             if (t.find("http") != std::string::npos)
                 continue;
             if (t.size() >= 3 && t[0] == '\xBB' && t[2] == ':' && std::string("BCFGRTV").find(t[1]) != std::string::npos) {
-                const std::string wert = t.size() > 4 ? t.substr(3, t.size() - 4) : std::string();
+                std::string wert = t.size() > 4 ? t.substr(3, t.size() - 4) : std::string();
+                while (!wert.empty() && wert[0] == ' ')
+                    wert.erase(0, 1);
                 if (t[1] == 'V' && !(seiten.count(n + 1) && hatMarker(seiten[n + 1].body, 'R')))
                     melde(n, s.stichwort, "V:-Link führt nicht zur Fortsetzung desselben Artikels");
                 if (t[1] == 'R' && !(seiten.count(n - 1) && hatMarker(seiten[n - 1].body, 'V')))
