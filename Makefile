@@ -28,5 +28,8 @@ bench: deps
 install: build
 	cmake --install $(BUILD) $(if $(PREFIX),--prefix $(PREFIX),)
 
+fuzz: deps
+	./fuzz/run.sh $(FUZZ_SECONDS)
+
 clean:
 	rm -rf $(BUILD) build-release

@@ -2,7 +2,17 @@
 
 #include "app/teilprogramm.h"
 #include "app/winfkt.h"
+#include "app/lint.h"
+#include "astronomy/commands.h"
+#include "crypto/commands.h"
+#include "graphs/commands.h"
+#include "numbers/commands.h"
+#include "kernel/commands.h"
+#include "kernel/term.h"
+#include "kernel/termcommands.h"
+#include "platform/commands.h"
 #include "kernel/headless.h"
+#include "lexicon/einstellungen.h"
 #include "lexicon/globals.h"
 #include "lexicon/toolcatalog.h"
 #include "platform/codepage.h"
@@ -175,6 +185,81 @@ int cmdPagewalk(quorix::Args args, std::ostream& out, std::ostream& err)
     return 0;
 }
 
+int cmdSearch(quorix::Args args, std::ostream& out, std::ostream& err)
+{
+    if (args.empty() || args.size() > 2) {
+        err << "Aufruf: quorix search WORT1 [WORT2]\n";
+        return 2;
+    }
+    TForm1 f(true);
+    const auto treffer = f.volltextSuchen(platform::utf8ToCp1252(args[0]),
+                                          args.size() > 1 ? platform::utf8ToCp1252(args[1]) : std::string());
+    if (treffer.empty()) {
+        out << f.meldung(52) << "\n";
+        return 1;
+    }
+    for (const auto& t : treffer)
+        out << utf8(t) << "\n";
+    out << treffer.size() << " Einträge\n";
+    return 0;
+}
+
+int cmdSettings(quorix::Args args, std::ostream& out, std::ostream& err)
+{
+    std::string ini;
+    const bool datei = quorix::takeOption(args, "--ini", ini);
+    if (!args.empty()) {
+        err << "Aufruf: quorix settings [--ini DATEI]\n";
+        return 2;
+    }
+    platform::StringList zeilen;
+    if (datei) {
+        if (!lexicon::textDateiLesen(ini, zeilen)) {
+            err << "Datei nicht gefunden: " << ini << "\n";
+            return 1;
+        }
+    } else {
+        TForm1 f(true);  // prepares the paths and the user's copy
+        if (!lexicon::textDateiLesen(lexicon::datenpfad + "quorix.ini", zeilen))
+            lexicon::textDateiLesen(lexicon::programmpfad + "quorix.ini", zeilen);
+    }
+    lexicon::Einstellungen e;
+    lexicon::einstellungenLesen(e, zeilen);
+    for (const auto& z : lexicon::einstellungenSchreiben(e, {}))
+        if (z.empty() || z[0] != '[')
+            out << utf8(z) << "\n";
+    return 0;
+}
+
+int cmdLint(quorix::Args args, std::ostream& out, std::ostream& err)
+{
+    if (!args.empty()) {
+        err << "Aufruf: quorix lint\n";
+        return 2;
+    }
+    TForm1 f(true);
+    fensterZeigen(f, 1008, f.height());
+    f.B2C();
+    // An F: term counts as rejected when the interpreter reports a syntax fault at any point.
+    lintTermPruefen = [](const std::string& term) {
+        std::string t = term;
+        while (!t.empty() && t[0] == ' ')
+            t.erase(0, 1);
+        for (char& c : t)
+            c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+        for (double x : {0.5, 1.7, -2.3}) {
+            quorix::EvalTerm(t, x);
+            if (quorix::TermError == 1)
+                return false;
+        }
+        return true;
+    };
+    const int n = lexikonPruefen(f, out);
+    if (n > 0)
+        err << n << " Probleme gefunden\n";
+    return n > 0 ? 1 : 0;
+}
+
 }  // namespace
 
 std::vector<quorix::HeadlessCommand> appCommands()
@@ -184,6 +269,9 @@ std::vector<quorix::HeadlessCommand> appCommands()
         {"catalog", "catalog TITEL  Werkzeugnummer, Seite und Punkt eines Katalogtitels", cmdCatalog},
         {"keywords", "keywords  die Stichwortliste mit Seitennummern", cmdKeywords},
         {"tool", "tool N [--page P] [--item I] --png DATEI  Bild eines Werkzeugfensters (0: Hauptfenster)", cmdTool},
+        {"search", "search WORT1 [WORT2]  Volltextsuche: die Stichwörter der Fundseiten", cmdSearch},
+        {"settings", "settings [--ini DATEI]  Einstellungen lesen und so ausgeben, wie sie geschrieben würden", cmdSettings},
+        {"lint", "lint  das Lexikon prüfen: tote Links, Werkzeugtitel, Blättern, Seitenhöhe", cmdLint},
         {"pagewalk", "pagewalk  alle Seiten nacheinander zeigen: Seiten und Sekunden", cmdPagewalk},
     };
 }
@@ -191,6 +279,11 @@ std::vector<quorix::HeadlessCommand> appCommands()
 std::vector<quorix::HeadlessCommand> alleBefehle()
 {
     std::vector<quorix::HeadlessCommand> alle = appCommands();
+    for (auto* satz : {&kernel::kernelCommands, &quorix::termCommands, &platform::platformCommands, &crypto::cryptoCommands,
+                       &::astronomyCommands, &::numbersCommands, &graphs::graphsCommands}) {
+        auto mehr = satz();
+        alle.insert(alle.end(), mehr.begin(), mehr.end());
+    }
     return alle;
 }
 

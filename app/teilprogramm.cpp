@@ -1,5 +1,9 @@
 #include "app/teilprogramm.h"
 
+#include "astronomy/windows.h"
+#include "crypto/windows.h"
+#include "graphs/windows.h"
+#include "numbers/windows.h"
 #include "lexicon/globals.h"
 
 #include <QApplication>
@@ -40,14 +44,14 @@ const std::vector<WerkzeugEintrag>& werkzeugtabelle()
     // Kind A and B windows and the plotter get their factories as their tools are built.
     static const std::vector<WerkzeugEintrag> tabelle = [] {
         std::vector<WerkzeugEintrag> t = {
-            {2, A::A, "TFInter", {}},       {3, A::A, "TFAnalysis", {}},   {4, A::C, "TFGraph", {}},
+            {2, A::A, "TFInter", {}},       {3, A::A, "TFAnalysis", {}},   {4, A::C, "TFGraph", graphs::createTFGraph},
             {5, A::A, "TFabbild", {}},      {6, A::A, "TFchaos", {}},      {7, A::B, "TFnumer", {}},
-            {8, A::A, "TFalgebra", {}},     {9, A::A, "TFkalend", {}},     {10, A::A, "Tf2048", {}},
+            {8, A::A, "TFalgebra", {}},     {9, A::A, "TFkalend", ::createTFkalend},     {10, A::A, "Tf2048", {}},
             {11, A::A, "TFpoly", {}},       {12, A::A, "TFintegra", {}},   {13, A::A, "TForm13", {}},
             {14, A::A, "TForm14", {}},      {15, A::A, "TFphy", {}},       {16, A::A, "TForm16", {}},
             {17, A::A, "TForm17", {}},      {18, A::A, "Ttranskoord", {}}, {19, A::B, "Tfphase", {}},
             {20, A::A, "TForm20", {}},      {21, A::A, "TForm21", {}},     {22, A::A, "TForm22", {}},
-            {23, A::A, "TForm23", {}},      {24, A::A, "TForm24", {}},     {25, A::A, "TxDreieck", {}},
+            {23, A::A, "TForm23", crypto::createTForm23},      {24, A::A, "TForm24", {}},     {25, A::A, "TxDreieck", {}},
             {26, A::A, "TFourier1", {}},    {27, A::A, "Troform", {}},     {28, A::B, "Tfaktform", {}},
             {29, A::A, "TcForm11", {}},     {30, A::A, "TForm30", {}},     {31, A::A, "TFchem", {}},
             {32, A::A, "TpForm10", {}},     {33, A::A, "Tzahlz", {}},      {34, A::A, "TaForm37", {}},
@@ -62,16 +66,16 @@ const std::vector<WerkzeugEintrag>& werkzeugtabelle()
             {59, A::A, "Tf11dual", {}},     {60, A::A, "TFimpkurv", {}},   {61, A::A, "Tphy3", {}},
             {62, A::B, "Taform1", {}},      {63, A::A, "Tfkarten", {}},    {64, A::A, "Tfspann", {}},
             {65, A::A, "TFbrute", {}},      {66, A::A, "TpForm8", {}},     {67, A::A, "Tphyf2", {}},
-            {68, A::A, "TQuiz1", {}},       {69, A::A, "Tfsortier", {}},   {70, A::A, "Tenigmaf", {}},
+            {68, A::A, "TQuiz1", {}},       {69, A::A, "Tfsortier", {}},   {70, A::A, "Tenigmaf", crypto::createTenigmaf},
             {71, A::E, "quorixo.exe", {}},  {72, A::A, "Tphraum", {}},     {73, A::A, "TForm31h", {}},
             {74, A::B, "Tfvierfarbe", {}},  {75, A::A, "Tgfilter", {}},    {76, A::A, "Tfsokoban", {}},
             {77, A::A, "Ttspform", {}},     {78, A::A, "Tf11bezier", {}},  {79, A::B, "Tfnform", {}},
-            {80, A::D, "Trechla", {}},      {81, A::A, "TForm10", {}},     {82, A::A, "Tvexed", {}},
+            {80, A::D, "Trechla", ::createTrechla},      {81, A::A, "TForm10", {}},     {82, A::A, "Tvexed", {}},
             {83, A::A, "Tfsudoku", {}},     {84, A::E, "quorixt.exe", {}}, {85, A::A, "Tpentoform", {}},
             {86, A::A, "TFRipple", {}},     {87, A::A, "TForm31", {}},     {88, A::B, "TFLyapunov", {}},
             {89, A::B, "Tfplot3d", {}},     {90, A::D, "Trechko", {}},     {91, A::E, "quorixc.exe", {}},
             {92, A::B, "Tztetris", {}},     {93, A::A, "Tfvier2", {}},     {94, A::A, "Tfbruch", {}},
-            {95, A::A, "TFGraf", {}},       {96, A::A, "TFMus", {}},       {97, A::D, "TOpBox", {}},
+            {95, A::A, "TFGraf", {}},       {96, A::A, "TFMus", {}},       {97, A::D, "TOpBox", ::createTOpBox},
             {98, A::E, "quorixx.exe", {}},  {99, A::E, "rechner.exe", {}}, {101, A::B, "TGBoard", {}},
             {102, A::A, "Tfmuehle", {}},    {103, A::A, "Tf11kugel", {}},  {104, A::A, "TTDame", {}},
             {105, A::A, "Tfstraights", {}}, {106, A::A, "Tfdigger", {}},   {107, A::A, "Trubik", {}},
@@ -132,6 +136,15 @@ bool teilprogrammstarten(QWidget* hauptfenster)
                 QObject::connect(d, &QObject::destroyed, [n = e->nummer]() { einzelfenster().erase(n); });
                 d->show();
             }
+        } else if (e->art == WerkzeugArt::C) {
+            // The plotter lives as long as the program and is shown again each time.
+            static QDialog* resident = nullptr;
+            if (!resident)
+                resident = e->fabrik(hauptfenster);
+            if (!bildZiel.empty())
+                bildSpeichern(resident);
+            else
+                resident->exec();
         } else {
             QDialog* d = e->fabrik(e->art == WerkzeugArt::A ? nullptr : hauptfenster);
             if (!bildZiel.empty()) {
@@ -141,8 +154,7 @@ bool teilprogrammstarten(QWidget* hauptfenster)
                 d->setWindowTitle("Quorix");
                 d->exec();
             }
-            if (e->art != WerkzeugArt::C)
-                delete d;
+            delete d;
         }
     } else if (e && e->art == WerkzeugArt::E) {
         // Companion programs are not part of this build: their numbers do nothing.

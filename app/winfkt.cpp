@@ -1,7 +1,14 @@
 #include "app/winfkt.h"
 
 #include "app/builtin.h"
+#include "app/einstellungen.h"
 #include "app/teilprogramm.h"
+#include "app/tfo3.h"
+#include "app/usuche.h"
+#include "kernel/term.h"
+#include "kernel/termderiv.h"
+#include "graphs/windows.h"
+#include "lexicon/suche.h"
 #include "lexicon/datenpfad.h"
 #include "lexicon/einstellungen.h"
 #include "lexicon/globals.h"
@@ -11,6 +18,8 @@
 #include "lexicon/seitenrechner.h"
 #include "platform/codepage.h"
 #include "platform/container.h"
+#include "platform/toolframe.h"
+#include "kernel/realtostr.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -58,6 +67,12 @@ const char* kUntertitel = "Lexikon der Mathematik";
 const char* kMotto = "Lesen, anschauen, rechnen \xE2\x80\x93 an einem Ort";
 
 int spaltenbreite(bool gross) { return gross ? 280 : 200; }
+
+QString ohneUnd(QString s)
+{
+    s.remove('&');
+    return s;
+}
 
 constexpr int kP1Hoehe = 36;
 constexpr int kP6Hoehe = 32;
@@ -136,6 +151,20 @@ void TForm1::FormCreate(bool headless)
         !lexicon::textDateiLesen(lexicon::programmpfad + "quorix.ini", ini))
         myexceptionhandler("Datei nicht gefunden: quorix.ini");
     lexicon::einstellungenLesen(einstellungen, ini);
+    kernel::UseDecimalComma = einstellungen.komma;
+    // Every numeric field reads terms; the rewrite list tidies derivatives.
+    lexicon::feldWertLesen = [](const std::string& s, bool& ok) {
+        const double v = quorix::ReadTermValue(s);
+        ok = true;
+        return v;
+    };
+    try {
+        quorix::SetTermRewriteList(platform::loadTextResource(lexicon::lexikonpfad + "texte.dll", "10", "wverein"));
+    } catch (const std::exception&) {
+        quorix::SetTermRewriteList({});
+    }
+    platform::setTextResourceFile(lexicon::lexikonpfad + "textx.dll");
+    platform::setPictureDirectory(lexicon::bildpfad);
 
     // 4. Caption
     setWindowTitle("Quorix");
@@ -170,6 +199,7 @@ void TForm1::FormCreate(bool headless)
         else if (LB1->currentRow() >= 0)
             LB1C();
     });
+    connect(S23, &QPushButton::clicked, this, &TForm1::Su1C);
     connect(S11, &QPushButton::clicked, this, [this]() {
         if (p3Offen_)
             B2C();
@@ -281,6 +311,8 @@ void TForm1::FormCreate(bool headless)
     P3->installEventFilter(this);
 
     menueAufbauen();
+    if (!zaehler.empty())
+        favoritensetzen();
 
     // 6.-9. Screen, start picture, size
     startbildLaden();
@@ -348,13 +380,21 @@ void TForm1::FormCreate(bool headless)
 
 void TForm1::FormDestroy()
 {
+    aktuellspeichern();
+    sucheoffen_ = false;
+}
+
+void TForm1::aktuellspeichern()
+{
     // Settings and use counts go back to the user's folder, written safely.
     try {
         if (!lexicon::datenpfad.empty() && lexicon::datenpfad != lexicon::lexikonpfad) {
             platform::StringList ini;
             const std::string pfad = lexicon::datenpfad + "quorix.ini";
             lexicon::textDateiLesen(pfad, ini);
-            einstellungen.lexikonseite = LB1 ? LB1->currentRow() : 0;
+            einstellungen.lexikonseite = LB1 ? std::max(0, LB1->currentRow()) : 0;
+            if (LB1)
+                einstellungen.listboxschrift = std::max(8, LB1->font().pointSize() - 1);
             einstellungen.maxfenster = isMaximized();
             platform::writeFileSafely(pfad, platform::joinLines(lexicon::einstellungenSchreiben(einstellungen, ini)));
             platform::StringList zaehler;
@@ -373,6 +413,10 @@ void TForm1::menueAufbauen()
     const platform::StringList zeilen = platform::splitLines(platform::zlibInflate(std::string(roh)));
     std::map<std::string, std::function<void()>> handler = {
         {"S3C", [this]() { S3C(); }},
+        {"S41C", [this]() { S41C(); }},
+        {"Su1C", [this]() { Su1C(); }},
+        {"Le1C", [this]() { Le1C(); }},
+        {"Ein1Click", [this]() { Ein1Click(); }},
         {"M766C", [this]() { M766C(); }},
         {"S1C", [this]() { S1C(); }},
         {"S2C", [this]() { S2C(); }},
@@ -441,6 +485,8 @@ void TForm1::menueAufbauen()
             connect(a, &QAction::triggered, this, [this, nr, caption]() { _M(nr, caption); });
         } else if (name.rfind("XM", 0) == 0) {
             a->setVisible(false);  // favourites: filled from the use counts
+        } else if (ohneUnd(caption) == QString::fromUtf8("Favoriten löschen")) {
+            connect(a, &QAction::triggered, this, [this]() { favoritenLoeschen(); });
         } else if (auto it = handler.find(name); it != handler.end()) {
             auto f = it->second;
             connect(a, &QAction::triggered, this, [f]() { f(); });
@@ -628,9 +674,14 @@ void TForm1::LB1C()
             lexicon::SeitenEinstellungen se{einstellungen.schrift, einstellungen.lexikonschrift, einstellungen.querv};
             lexicon::SeitenMaler maler(c, se, linkbild_, [this](const std::string& ct, const std::string& t,
                                                                  const std::string& n) { return bildLaden(ct, t, n); });
-            erg = maler.maleSeite(store_.seitenblock, L, breite, p12Breite_ == 264);
+            lexicon::SuchMarke marke;
+            marke.aktiv = sucheoffen_;
+            marke.wort1 = suchwort1_;
+            marke.wort2 = suchwort2_;
+            erg = maler.maleSeite(store_.seitenblock, L, breite, p12Breite_ == 264, marke);
         }
         titel_ = erg.titel;
+        seitenEnde_ = erg.yEnde;
         titelLabel_->setText(fromCp1252(titel_));
         linkfeld_ = erg.links;
         bildseite_ = erg.bildseite;
@@ -820,11 +871,10 @@ void TForm1::PB1D(int x, int y)
             // The plotter reads the plot list when it opens; it joins with its own tool.
             lexicon::PlotAuftrag p = lexicon::plotAuftragAusWert(a.wert);
             if (p.flaeche) {
-                lexicon::werkzeugnummer = 89;
+                lexicon::werkzeugnummer = 89;  // the surface tool reads flaechenname
                 teilprogrammstarten(this);
-            } else {
-                lexicon::werkzeugnummer = 4;
-                teilprogrammstarten(this);
+            } else if (!headless_) {
+                graphs::plotAuftragOeffnen(p, this);
             }
             NeueSeite();
             break;
@@ -880,10 +930,17 @@ void TForm1::PB1D(int x, int y)
             letzteseite_ = std::max(0, letzteseite_ - 1);
             NeueSeite();
             break;
-        case KlickAktion::Lexikonrechnung:
-            letzteAktion_ = "rechnung:" + a.wert;  // TFo3 joins with the term interpreter
+        case KlickAktion::Lexikonrechnung: {
+            letzteAktion_ = "rechnung:" + a.wert;
+            if (!headless_) {
+                const auto& l = linkfeld_[static_cast<size_t>(a.linkIndex)];
+                TFo3 d(a.wert, this);
+                d.move(PBox1->mapToGlobal(QPoint(l.x1, l.y1 + 24)));
+                d.exec();
+            }
             LB1C();
             break;
+        }
         case KlickAktion::Nichts:
             break;
         }
@@ -1069,6 +1126,133 @@ bool TForm1::seiteWaehlen(int seite)
     const std::string alt = titel_;
     NeueSeite();
     return aktseite_ == seite && (LB1->currentRow() != vorher || titel_ != alt || aktseite_ == seite);
+}
+
+}  // namespace app
+
+namespace app {
+
+void TForm1::Su1C()
+{
+    if (sucheoffen_ && suche_) {
+        suche_->setWindowState(suche_->windowState() & ~Qt::WindowMinimized);
+        suche_->show();
+        suche_->raise();
+        suche_->activateWindow();
+        return;
+    }
+    suche_ = new Tfsuche(this);
+    sucheoffen_ = true;
+    suche_->show();
+}
+
+void TForm1::S41C()
+{
+    Su1C();
+    suche_->B2Click();
+}
+
+void TForm1::Le1C()
+{
+    Su1C();
+    suche_->B3Click();
+}
+
+void TForm1::Ein1Click()
+{
+    TForm33 d([this]() {
+        letzteBreite_ = -1;
+        LB1C();
+    }, this);
+    d.exec();
+    if (!p3Offen_)
+        LB1C();
+}
+
+std::vector<std::string> TForm1::volltextSuchen(const std::string& w1, const std::string& w2,
+                                                const std::function<void(int, int)>& fortschritt)
+{
+    if (w1 != suchwort1_)
+        suchwort1_ = w1;
+    suchwort2_ = w2;
+    zeitaufwaendig_ = true;
+    lexicon::SuchAuftrag a;
+    a.wort1 = w1;
+    a.wort2 = w2;
+    a.bloecke = store_.letzterBlock();
+    const std::string container = lexicon::lexikonpfad + "tlexikon.dll";
+    a.blockLaden = [container](int b) { return platform::loadTextResource(container, "10", "t" + std::to_string(b)); };
+    a.laeuft = [this]() { return zeitaufwaendig_; };
+    a.fortschritt = fortschritt;
+    std::vector<std::string> treffer;
+    try {
+        treffer = lexicon::volltextSuche(a);
+    } catch (const std::exception& e) {
+        myexceptionhandler(e.what());
+    }
+    zeitaufwaendig_ = false;
+    if (!p3Offen_ && LB1->currentRow() >= 0)
+        LB1C();  // the words now stand marked
+    return treffer;
+}
+
+std::string TForm1::aktuellesStichwort() const
+{
+    const int i = LB1->currentRow();
+    return i >= 0 ? stichworte_[static_cast<size_t>(i)] : std::string();
+}
+
+void TForm1::stichwortSuchenUndZeigen(const std::string& text)
+{
+    auto it = std::lower_bound(stichworte_.begin(), stichworte_.end(), text, lexicon::keywordLess);
+    int pos = static_cast<int>(it - stichworte_.begin());
+    if (pos >= LB1->count())
+        pos = LB1->count() - 1;
+    if (pos < 0)
+        return;
+    malt_ = true;
+    LB1->setCurrentRow(pos);
+    malt_ = false;
+    LB1C();
+}
+
+std::string TForm1::meldung(int nummer) const
+{
+    return platform::cp1252ToUtf8(platform::messageText(nummer));
+}
+
+QAction* TForm1::menuePunkt(const std::string& name) const
+{
+    auto it = menuePunkte_.find(name);
+    return it == menuePunkte_.end() ? nullptr : it->second;
+}
+
+void TForm1::favoritensetzen()
+{
+    const auto f = lexicon::favoritenSortieren(menuzaehler_);
+    for (int r = 1; r <= 20; ++r) {
+        QAction* a = menuePunkt("XM" + std::to_string(r));
+        if (!a)
+            continue;
+        const auto& [zahl, nummer] = f[static_cast<size_t>(r) - 1];
+        auto titel = menueTitel_.find(nummer);
+        if (zahl > 0 && titel != menueTitel_.end()) {
+            a->setText(QString::number(r) + ") " + titel->second + " : " + QString::number(zahl));
+            a->disconnect();
+            const int nr = nummer;
+            const QString caption = titel->second;
+            connect(a, &QAction::triggered, this, [this, nr, caption]() { _M(nr, caption); });
+            a->setVisible(true);
+        } else {
+            a->setVisible(false);
+        }
+    }
+}
+
+void TForm1::favoritenLoeschen()
+{
+    std::fill(menuzaehler_.begin(), menuzaehler_.end(), 0);
+    favoritensetzen();
 }
 
 }  // namespace app

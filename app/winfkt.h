@@ -7,6 +7,7 @@
 
 #include <QMainWindow>
 #include <array>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -52,6 +53,25 @@ public:
     void xmenu(const std::string& titel);
     void lexikonsichtbar(bool an);
 
+    // Finding (search window, bookmarks, favourites)
+    void S41C();
+    void Su1C();
+    void Le1C();
+    void Ein1Click();
+    void favoritensetzen();
+    void favoritenLoeschen();
+    bool sucheLaeuft() const { return zeitaufwaendig_; }
+    void sucheStoppen() { zeitaufwaendig_ = false; }
+    std::vector<std::string> volltextSuchen(const std::string& w1, const std::string& w2,
+                                            const std::function<void(int, int)>& fortschritt = {});
+    const platform::StringList& stichwortListe() const { return stichworte_; }
+    std::string aktuellesStichwort() const;
+    void stichwortSuchenUndZeigen(const std::string& text);
+    std::string meldung(int nummer) const;
+    class Tfsuche* suchfenster() const { return suche_; }
+    QAction* menuePunkt(const std::string& name) const;
+    void aktuellspeichern();
+
     // For commands and tests
     bool stichwortWaehlen(const std::string& stichwort);  // exact keyword -> LB1 selection + paint
     bool seiteWaehlen(int seite);                          // page number -> NeueSeite
@@ -69,6 +89,8 @@ public:
     bool startbildOffen() const { return p3Offen_; }
     int menuzaehler(int i) const { return menuzaehler_[static_cast<size_t>(i)]; }
     const std::string& letzteAktion() const { return letzteAktion_; }
+    int seitenEnde() const { return seitenEnde_; }  // y below the last painted line
+    lexicon::PageStore& pageStore() { return store_; }
     QStringList seitenrechnerZeilen() const;
     void seitenrechnerFelder(const QString& a, const QString& b, const QString& c = {});
     void anordnen();
@@ -138,6 +160,10 @@ private:
     bool malt_ = false;
     std::vector<short> menuzaehler_ = std::vector<short>(820, 0);
     std::string letzteAktion_;  // what the last click asked for, for the tests
+    class Tfsuche* suche_ = nullptr;
+    bool sucheoffen_ = false;
+    std::string suchwort1_, suchwort2_;
+    int seitenEnde_ = 0;
 };
 
 // The page box: blits the off-screen picture and passes the mouse on.

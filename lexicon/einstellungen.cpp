@@ -1,5 +1,6 @@
 #include "lexicon/einstellungen.h"
 
+#include <cctype>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -79,11 +80,19 @@ std::string trimmed(const std::string& s)
 
 bool iniWertSuchen(const platform::StringList& zeilen, const std::string& key, std::string& wert)
 {
-    for (const auto& z : zeilen) {
-        if (z.find(key) == std::string::npos)
+    // The hit ignores case: "Lexikonschrift=12" in front of "Schrift=..." answers for
+    // "Schrift", which is why the factory file keeps "Schrift" first.
+    std::string k = key;
+    for (char& c : k)
+        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    for (const auto& z0 : zeilen) {
+        std::string z = z0;
+        for (char& c : z)
+            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        if (z.find(k) == std::string::npos)
             continue;
-        const size_t eq = z.find('=');
-        wert = eq == std::string::npos ? std::string() : z.substr(eq + 1, 255);
+        const size_t eq = z0.find('=');
+        wert = eq == std::string::npos ? std::string() : z0.substr(eq + 1, 255);
         return true;
     }
     return false;

@@ -59,6 +59,9 @@ KlickAktion klickAuswerten(const std::vector<LinkEintrag>& links, int x, int y,
         return a;
     }
     a.wert = text.size() > 4 ? text.substr(3, text.size() - 4) : std::string();
+    // "»F: X^2«" and "»F:X^2«" mean the same: the value is what follows "F: ".
+    while (!a.wert.empty() && a.wert[0] == ' ')
+        a.wert.erase(0, 1);
     if (text.find("F:") != std::string::npos) {
         a.art = KlickAktion::Funktionsplot;
     } else if (text.find("C:") != std::string::npos) {

@@ -4,7 +4,11 @@
 
 #include <QFontMetrics>
 #include <QPolygon>
+#include <QGlyphRun>
+#include <QRawFont>
+#include <QVarLengthArray>
 #include <cmath>
+#include <map>
 #include <optional>
 
 namespace platform {
@@ -14,6 +18,44 @@ namespace {
 // Per-painter cache of metrics: the page layout measures thousands of pieces a second.
 thread_local std::optional<QFontMetrics> tlMetrics;
 thread_local QFont tlMetricsFont;
+
+// Widths of the 256 bytes of a font, so that measuring a line costs no text shaping:
+// the page layout measures a line again for every word it takes off at a wrap.
+struct ByteAdvances {
+    double w[256];
+    quint32 glyph[256];
+    QRawFont raw;
+};
+
+const ByteAdvances& advancesFor(const QFont& f, const std::string& fontName, int pixelSize, int style)
+{
+    thread_local std::map<std::tuple<std::string, int, int>, ByteAdvances> cache;
+    const auto key = std::make_tuple(fontName, pixelSize, style);
+    auto it = cache.find(key);
+    if (it != cache.end())
+        return it->second;
+    ByteAdvances a;
+    const QFontMetricsF fm(f);
+    for (int b = 0; b < 256; ++b) {
+        const unsigned char c = static_cast<unsigned char>(b);
+        const QChar ch = fontName == "Symbol"      ? symbolToUnicode(c)
+                         : fontName == "Wingdings" ? wingdingsToUnicode(c)
+                                                   : fromCp1252(std::string(1, static_cast<char>(c))).at(0);
+        a.w[b] = fm.horizontalAdvance(ch);
+    }
+    // Glyphs of the bytes, so that drawing skips shaping as well.
+    a.raw = QRawFont::fromFont(f);
+    for (int b = 0; b < 256; ++b) {
+        const unsigned char c = static_cast<unsigned char>(b);
+        const QChar ch = fontName == "Symbol"      ? symbolToUnicode(c)
+                         : fontName == "Wingdings" ? wingdingsToUnicode(c)
+                                                   : fromCp1252(std::string(1, static_cast<char>(c))).at(0);
+        const char32_t u = ch.unicode();
+        const QList<quint32> g = a.raw.isValid() ? a.raw.glyphIndexesForString(QString(QChar(u))) : QList<quint32>{};
+        a.glyph[b] = g.isEmpty() ? 0 : g.front();
+    }
+    return cache.emplace(key, a).first->second;
+}
 
 const QFontMetrics& metricsFor(const QFont& f)
 {
@@ -104,7 +146,9 @@ void Canvas::applyFont()
     font_.setItalic(fontStyle_ & fsItalic);
     font_.setUnderline(fontStyle_ & fsUnderline);
     font_.setStrikeOut(fontStyle_ & fsStrikeOut);
-    font_.setHintingPreference(QFont::PreferNoHinting);
+    font_.setHintingPreference(QFont::PreferFullHinting);
+    // Without kerning a text is as wide as its characters together, as the layout measures it.
+    font_.setKerning(false);
     fontDirty_ = false;
 }
 
@@ -199,7 +243,38 @@ QString Canvas::toScreen(const std::string& text) const
 
 void Canvas::textOut(int x, int y, const std::string& text)
 {
-    textOutW(x, y, toScreen(text));
+    applyFont();
+    if (fontAngle_ != 0 || (fontStyle_ & (fsUnderline | fsStrikeOut)) || text.empty()) {
+        textOutW(x, y, toScreen(text));
+        return;
+    }
+    const ByteAdvances& a = advancesFor(font_, fontName_, font_.pixelSize(), fontStyle_);
+    if (!a.raw.isValid()) {
+        textOutW(x, y, toScreen(text));
+        return;
+    }
+    // Fast path: glyphs and advances of the bytes, placed as the layout measured them.
+    QVarLengthArray<quint32, 128> glyphs(static_cast<qsizetype>(text.size()));
+    QVarLengthArray<QPointF, 128> pos(static_cast<qsizetype>(text.size()));
+    double w = 0;
+    for (size_t i = 0; i < text.size(); ++i) {
+        const unsigned char c = static_cast<unsigned char>(text[i]);
+        glyphs[static_cast<qsizetype>(i)] = a.glyph[c];
+        pos[static_cast<qsizetype>(i)] = QPointF(std::round(w), 0);
+        w += a.w[c];
+    }
+    const double ascent = a.raw.ascent();
+    if (brushStyle_ == BrushStyle::Solid)
+        painter_->fillRect(QRectF(x, y, w, ascent + a.raw.descent() + 1), toQColor(brushColor_));
+    QGlyphRun run;
+    run.setRawFont(a.raw);
+    run.setGlyphIndexes(QList<quint32>(glyphs.begin(), glyphs.end()));
+    run.setPositions(QList<QPointF>(pos.begin(), pos.end()));
+    QPen keep = painter_->pen();
+    painter_->setPen(toQColor(fontColor_));
+    painter_->drawGlyphRun(QPointF(x, y + std::round(ascent)), run);
+    painter_->setPen(keep);
+    pos_ = QPoint(x + static_cast<int>(std::lround(w)), y);
 }
 
 void Canvas::textOutW(int x, int y, const QString& text)
@@ -227,7 +302,12 @@ void Canvas::textOutW(int x, int y, const QString& text)
 
 int Canvas::textWidth(const std::string& text)
 {
-    return textWidthW(toScreen(text));
+    applyFont();
+    const ByteAdvances& a = advancesFor(font_, fontName_, font_.pixelSize(), fontStyle_);
+    double w = 0;
+    for (unsigned char c : text)
+        w += a.w[c];
+    return static_cast<int>(std::lround(w));
 }
 
 int Canvas::textWidthW(const QString& text)

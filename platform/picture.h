@@ -42,8 +42,9 @@ private:
 
 // One frame of a decoded (possibly animated) picture.
 struct PictureFrame {
-    Picture picture;
+    Picture picture;   // the whole logical screen as it shows at this frame
     int delayMs = 0;
+    int disposal = 0;  // GIF disposal of this frame: 0/1 keep, 2 background, 3 previous
 };
 
 // Decodes the bytes of a resource of type "Jpeg", "GIF", "BMP" or "PNG". Throws ResourceError.

@@ -1,7 +1,7 @@
 #!/bin/sh
 # Installs the Debian packages that building and testing Quorix needs; silent if all are there.
 set -e
-PKGS="cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev libqt6svg6-dev zlib1g-dev libzip-dev
+PKGS="cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev libqt6svg6-dev zlib1g-dev libzip-dev libmuparser-dev clang
 libpng-dev libjpeg-dev libgif-dev libgtest-dev libgmock-dev fonts-dejavu-core libgl1-mesa-dev"
 MISSING=""
 for p in $PKGS; do

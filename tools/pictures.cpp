@@ -1,8 +1,8 @@
 // Pictures for the containers: authored as SVG (vector source) or as our own raster files.
+#include "platform/codecs.h"
 #include "platform/picture.h"
 #include "tools/packer.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -36,13 +36,20 @@ std::string pictureBytesFromSource(const fs::path& source, const std::string& ty
             (type == "BMP" && ext == ".bmp"))
             return raw;
     }
-    QByteArray out;
-    QBuffer buf(&out);
-    buf.open(QIODevice::WriteOnly);
-    const char* fmt = type == "Jpeg" ? "JPG" : type == "BMP" ? "BMP" : "PNG";
-    if (!img.save(&buf, fmt, type == "Jpeg" ? 92 : -1))
-        throw PackError(source.string() + ":0: Bild kann nicht kodiert werden");
-    return std::string(out.constData(), static_cast<size_t>(out.size()));
+    // Our own encoders, so the containers hold what the program's decoders read: a real GIF for
+    // "GIF", a libjpeg JPEG for "Jpeg".
+    try {
+        const platform::Picture pic(img);
+        if (type == "Jpeg")
+            return platform::encodeJpeg(pic, 92);
+        if (type == "GIF")
+            return platform::encodeGif(pic);
+        if (type == "BMP")
+            return platform::encodeBmp24(pic);
+        return platform::encodePng(pic);
+    } catch (const platform::ResourceError& e) {
+        throw PackError(source.string() + ":0: Bild kann nicht kodiert werden (" + e.what() + ")");
+    }
 }
 
 }  // namespace packer

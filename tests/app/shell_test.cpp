@@ -1,4 +1,10 @@
+#include "app/lint.h"
 #include "app/winfkt.h"
+#include "app/usuche.h"
+#include "lexicon/einstellungen.h"
+#include "lexicon/suche.h"
+#include <QLabel>
+#include <QLineEdit>
 #include "lexicon/globals.h"
 #include "tools/packer.h"
 
@@ -9,6 +15,8 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <sstream>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 using app::TForm1;
@@ -20,7 +28,7 @@ class Shell : public ::testing::Test {
 protected:
     static void SetUpTestSuite()
     {
-        ordner_ = fs::temp_directory_path() / "quorix_shell_test";
+        ordner_ = fs::temp_directory_path() / ("quorix_shell_test_" + std::to_string(::getpid()));
         fs::remove_all(ordner_);
         fs::create_directories(ordner_);
         packer::packAll(QUORIX_TEST_DATA "/testdaten", ordner_.string());
@@ -163,4 +171,78 @@ TEST_F(Shell, MenuEntryWithoutCatalogueTitleCountsButDoesNothing)
     EXPECT_EQ(form->menuzaehler(12), vorher + 1);
     EXPECT_EQ(lexicon::wahlseite, -1);
     EXPECT_TRUE(lexicon::werkzeugtitel == "Kein Werkzeug" || lexicon::werkzeugtitel.empty());
+}
+
+TEST_F(Shell, LintFindsDeadLinksUnknownToolsBrokenTurningAndMissingCrossReferences)
+{
+    std::ostringstream out;
+    const int n = app::lexikonPruefen(*form, out);
+    const std::string t = out.str();
+    EXPECT_NE(t.find("6\tFehlerseite\ttoter Link: Nirgendwo\n"), std::string::npos) << t;
+    EXPECT_NE(t.find("6\tFehlerseite\tWerkzeuglink ohne Katalogtitel: Unbekanntes Werkzeug\n"), std::string::npos);
+    EXPECT_EQ(t.find("Funktionenplotter"), std::string::npos);  // a catalogue title is fine
+    EXPECT_NE(t.find("6\tFehlerseite\tV:-Link führt nicht zur Fortsetzung desselben Artikels\n"), std::string::npos);
+    EXPECT_NE(t.find("6\tFehlerseite\tkein Querverweis\n"), std::string::npos);
+    EXPECT_EQ(t.find("1\tKreis\t"), std::string::npos);  // a sound page: V: and R: agree, one cross reference
+    EXPECT_EQ(t.find("2\tKreisumfang\t"), std::string::npos);
+    EXPECT_EQ(n, static_cast<int>(std::count(t.begin(), t.end(), '\n')));
+}
+
+TEST_F(Shell, SearchWindowFindsPagesAndMarksTheWordsOnThePage)
+{
+    form->Su1C();
+    ASSERT_NE(form->suchfenster(), nullptr);
+    form->suchfenster()->E3->setText("Durchmesser");
+    form->suchfenster()->S26Click();
+    ASSERT_EQ(form->suchfenster()->LB4->count(), 1);
+    EXPECT_EQ(form->suchfenster()->L1->text(), QString::fromUtf8("1 Einträge"));
+    form->suchfenster()->LB4->setCurrentRow(0);
+    form->suchfenster()->LB4Click();
+    EXPECT_EQ(form->seitentitel(), "Radius");
+    int markiert = 0;
+    const auto& bild = form->seitenbild();
+    for (int y = 0; y < 60; ++y)
+        for (int x = 0; x < bild.width(); ++x)
+            markiert += bild.pixel(x, y) == platform::rgb(255, 255, 160);
+    EXPECT_GT(markiert, 100);
+    // Hidden, the window keeps the mark alive; the keyword list fills the result list.
+    form->suchfenster()->close();
+    form->S41C();
+    EXPECT_EQ(form->suchfenster()->LB4->count(), static_cast<int>(form->stichwortListe().size()));
+}
+
+TEST_F(Shell, BookmarksSurviveInTheUsersSettingsFile)
+{
+    form->lb1()->setCurrentRow(zeile("Zylinder"));
+    form->Le1C();
+    const int vorher = form->suchfenster()->LB4->count();
+    ASSERT_TRUE(form->suchfenster()->LB4->findItems("Zylinder", Qt::MatchExactly).isEmpty());
+    form->suchfenster()->S6Click();
+    form->suchfenster()->S6Click();  // no doubles
+    EXPECT_EQ(form->suchfenster()->LB4->count(), vorher + 1);
+    platform::StringList ini;
+    ASSERT_TRUE(lexicon::textDateiLesen(lexicon::datenpfad + "quorix.ini", ini));
+    EXPECT_NE(std::find(ini.begin(), ini.end(), "[LZeichen]"), ini.end());
+    form->suchfenster()->LB4->setCurrentRow(form->suchfenster()->LB4->count() - 1);
+    form->suchfenster()->S25Click();
+    lexicon::textDateiLesen(lexicon::datenpfad + "quorix.ini", ini);
+    EXPECT_EQ(lexicon::lesezeichenLesen(ini).size(), static_cast<size_t>(form->suchfenster()->LB4->count()));
+}
+
+TEST_F(Shell, SettingsAndUseCountsSurviveARestart)
+{
+    lexicon::einstellungen.querv = false;
+    lexicon::einstellungen.gOrt = "Halle, D";
+    form->lb1()->setCurrentRow(zeile("Radius"));
+    form->_M(33, "Nichts");
+    form->_M(33, "Nichts");
+    const short zaehler = form->menuzaehler(33);
+    form.reset();  // FormDestroy writes quorix.ini and mfavor.c00
+    lexicon::einstellungen = lexicon::Einstellungen{};
+    form = std::make_unique<TForm1>(true);
+    EXPECT_FALSE(lexicon::einstellungen.querv);
+    EXPECT_EQ(lexicon::einstellungen.gOrt, "Halle, D");
+    EXPECT_EQ(lexicon::einstellungen.lexikonseite, zeile("Radius"));
+    EXPECT_EQ(form->menuzaehler(33), zaehler);
+    lexicon::einstellungen.querv = true;
 }

@@ -110,3 +110,11 @@ TEST(PlotLink, FunctionsCurvesAndSurfaces)
     EXPECT_TRUE(p.kurvenmodus);
     EXPECT_EQ(p.flaechenname, "sattel");
 }
+
+TEST(LinkClick, BlankAfterTheMarkerColonIsNotPartOfTheValue)
+{
+    const auto a = klickAuswerten({link(0, 0, 100, "\xBB" "F: ~kCOS(X)|SIN(X)\xAB")}, 5, 5, lb1, katalog);
+    EXPECT_EQ(a.art, KlickAktion::Funktionsplot);
+    EXPECT_EQ(a.wert, "~kCOS(X)|SIN(X)");
+    EXPECT_EQ(plotAuftragAusWert(a.wert).feldY, "SIN(X)");
+}

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <unistd.h>
 
 using namespace platform;
 
@@ -37,7 +38,7 @@ TEST(TextList, SplitAcceptsLoneLineFeedAndNoFinalBreak)
 
 TEST(TextList, CompressedListFileRoundTripAndMissingFile)
 {
-    const auto dir = std::filesystem::temp_directory_path() / "quorix_textlist_test";
+    const auto dir = std::filesystem::temp_directory_path() / ("quorix_textlist_test_" + std::to_string(::getpid()));
     std::filesystem::create_directories(dir);
     const std::string path = (dir / "mtest.c00").string();
     SaveCompressedList({"1", "2", "-5"}, path);
@@ -51,7 +52,7 @@ TEST(TextList, CompressedListFileRoundTripAndMissingFile)
 
 TEST(Container, WriteReadAndMissingResources)
 {
-    const auto dir = std::filesystem::temp_directory_path() / "quorix_container_test";
+    const auto dir = std::filesystem::temp_directory_path() / ("quorix_container_test_" + std::to_string(::getpid()));
     std::filesystem::create_directories(dir);
     const std::string path = (dir / "tprobe.dll").string();
     ContainerWriter w;

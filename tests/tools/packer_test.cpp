@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <unistd.h>
 
 using namespace packer;
 
@@ -94,7 +95,7 @@ TEST(PageStore, AddressesPagesAcrossBlocksAndRepeatsTheLastHeadLine)
     EXPECT_EQ(blocks[1][99], blocks[1][50]);
     EXPECT_EQ(blocks[1].back(), "[#]");
 
-    const auto dir = std::filesystem::temp_directory_path() / "quorix_pagestore_test";
+    const auto dir = std::filesystem::temp_directory_path() / ("quorix_pagestore_test_" + std::to_string(::getpid()));
     std::filesystem::create_directories(dir);
     platform::ContainerWriter w;
     for (size_t b = 0; b < blocks.size(); ++b)
