@@ -3,6 +3,7 @@
 #include "app/builtin.h"
 #include "app/einstellungen.h"
 #include "app/teilprogramm.h"
+#include "app/proliste.h"
 #include "app/tfo3.h"
 #include "app/usuche.h"
 #include "kernel/term.h"
@@ -200,6 +201,7 @@ void TForm1::FormCreate(bool headless)
             LB1C();
     });
     connect(S23, &QPushButton::clicked, this, &TForm1::Su1C);
+    connect(S12, &QPushButton::clicked, this, [this]() { S12C(false); });
     connect(S11, &QPushButton::clicked, this, [this]() {
         if (p3Offen_)
             B2C();
@@ -414,6 +416,8 @@ void TForm1::menueAufbauen()
     std::map<std::string, std::function<void()>> handler = {
         {"S3C", [this]() { S3C(); }},
         {"S41C", [this]() { S41C(); }},
+        {"S12C", [this]() { S12C(false); }},
+        {"S12CZ", [this]() { S12C(true); }},
         {"Su1C", [this]() { Su1C(); }},
         {"Le1C", [this]() { Le1C(); }},
         {"Ein1Click", [this]() { Ein1Click(); }},
@@ -487,6 +491,8 @@ void TForm1::menueAufbauen()
             a->setVisible(false);  // favourites: filled from the use counts
         } else if (ohneUnd(caption) == QString::fromUtf8("Favoriten löschen")) {
             connect(a, &QAction::triggered, this, [this]() { favoritenLoeschen(); });
+        } else if (name == "S12C" && ohneUnd(caption) == "Zusatztexte") {
+            connect(a, &QAction::triggered, this, [this]() { S12C(true); });
         } else if (auto it = handler.find(name); it != handler.end()) {
             auto f = it->second;
             connect(a, &QAction::triggered, this, [f]() { f(); });
@@ -1253,6 +1259,24 @@ void TForm1::favoritenLoeschen()
 {
     std::fill(menuzaehler_.begin(), menuzaehler_.end(), 0);
     favoritensetzen();
+}
+
+}  // namespace app
+
+namespace app {
+
+void TForm1::S12C(bool zusatztexte)
+{
+    Tproliste d(this, zusatztexte);
+    if (d.exec() != QDialog::Accepted || d.gewaehlt().isEmpty())
+        return;
+    if (zusatztexte) {
+        lexicon::Tftabelle t(d.gewaehlt().toStdString(), this);
+        t.exec();
+        return;
+    }
+    lexicon::werkzeugtitel = platform::toCp1252(d.gewaehlt());
+    xmenu(lexicon::werkzeugtitel);
 }
 
 }  // namespace app

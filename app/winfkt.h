@@ -55,6 +55,7 @@ public:
 
     // Finding (search window, bookmarks, favourites)
     void S41C();
+    void S12C(bool zusatztexte);  // Themenliste / Zusatztexte
     void Su1C();
     void Le1C();
     void Ein1Click();

@@ -52,6 +52,23 @@ bool hasResource(const std::string& containerPath, const std::string& type, cons
     return zip_name_locate(z.get(), entryName(type, name).c_str(), ZIP_FL_NOCASE) >= 0;
 }
 
+std::vector<std::string> listResources(const std::string& containerPath, const std::string& type)
+{
+    std::vector<std::string> namen;
+    int err = 0;
+    std::unique_ptr<zip_t, ZipCloser> z(zip_open(containerPath.c_str(), ZIP_RDONLY, &err));
+    if (!z)
+        return namen;
+    const std::string praefix = type + "/";
+    const zip_int64_t n = zip_get_num_entries(z.get(), 0);
+    for (zip_int64_t i = 0; i < n; ++i) {
+        const char* name = zip_get_name(z.get(), static_cast<zip_uint64_t>(i), 0);
+        if (name && std::string(name).rfind(praefix, 0) == 0)
+            namen.emplace_back(name + praefix.size());
+    }
+    return namen;
+}
+
 StringList loadTextResource(const std::string& containerPath, const std::string& type,
                             const std::string& name)
 {

@@ -4,6 +4,7 @@
 #include "platform/textlist.h"
 
 #include <map>
+#include <vector>
 #include <string>
 
 namespace platform {
@@ -12,6 +13,8 @@ namespace platform {
 std::string readResource(const std::string& containerPath, const std::string& type,
                          const std::string& name);
 bool hasResource(const std::string& containerPath, const std::string& type, const std::string& name);
+// Names of all resources of one type, in the container's order.
+std::vector<std::string> listResources(const std::string& containerPath, const std::string& type);
 // The one loader of text resources: fetch, inflate, split into lines.
 StringList loadTextResource(const std::string& containerPath, const std::string& type,
                             const std::string& name);

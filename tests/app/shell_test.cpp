@@ -1,5 +1,6 @@
 #include "app/lint.h"
 #include "app/winfkt.h"
+#include "app/proliste.h"
 #include "app/usuche.h"
 #include "lexicon/einstellungen.h"
 #include "lexicon/suche.h"
@@ -15,6 +16,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <set>
 #include <sstream>
 #include <unistd.h>
 
@@ -245,4 +247,17 @@ TEST_F(Shell, SettingsAndUseCountsSurviveARestart)
     EXPECT_EQ(lexicon::einstellungen.lexikonseite, zeile("Radius"));
     EXPECT_EQ(form->menuzaehler(33), zaehler);
     lexicon::einstellungen.querv = true;
+}
+
+TEST_F(Shell, TopicListOffersEveryCatalogueTitleOnceAndFilters)
+{
+    app::Tproliste d(form.get(), false);
+    std::set<std::string> titel;
+    const auto& z = form->katalog().liste();
+    for (size_t i = 0; i + 1 < z.size(); i += 2)
+        titel.insert(z[i]);
+    EXPECT_EQ(d.liste->count(), static_cast<int>(titel.size()));
+    app::Tproliste texte(form.get(), true);
+    for (int i = 0; i < texte.liste->count(); ++i)
+        EXPECT_FALSE(texte.liste->item(i)->text().isEmpty());
 }
