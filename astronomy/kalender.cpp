@@ -373,6 +373,66 @@ void mars(long jdn, std::vector<std::string>& out)
     out.push_back("\t" + std::to_string(r % 7 + 1) + ".Wochentag, Sol " + wd[r % 7]);
 }
 
+// Soviet calendar of 1929 to 1940: twelve months of 30 days with the five (six) national days outside
+// every month and week: Lenin's day after 30 January, the leap day after 30 February, the two days
+// of labour after 30 April and the two days of industry after 7 November. 0 for a day of a month.
+int sovietHoliday(int k, bool leap, int& month, int& day)
+{
+    if (k <= 30) {
+        month = 1, day = k;
+        return 0;
+    }
+    if (k == 31) return 1;  // Lenintag
+    if (k <= 61) {
+        month = 2, day = k - 31;
+        return 0;
+    }
+    if (leap) {
+        if (k == 62) return 2;  // Schalttag
+        --k;
+    }
+    if (k == 122 || k == 123) return k - 119;  // 3, 4: days of labour
+    if (k == 311 || k == 312) return k - 306;  // 5, 6: days of industry
+    if (k > 312) k -= 2;
+    if (k > 123) k -= 2;
+    // from here on the months follow each other without a gap
+    month = (k - 62) / 30 + 3, day = (k - 62) % 30 + 1;
+    return 0;
+}
+
+std::string soviet(const Date& c, long jdn)
+{
+    static const char* extra[] = {"", "Lenintag", "Schalttag", "1.Tag der Arbeit", "2.Tag der Arbeit",
+                                  "1.Tag der Industrie", "2.Tag der Industrie"};
+    const auto scheme = [](const Date& x, int& month, int& day) {
+        return sovietHoliday(dayOfYear(x), isLeapCivil(x.year), month, day);
+    };
+    int month = 0, day = 0;
+    const int h = scheme(c, month, day);
+    std::string text = (h ? std::string(extra[h]) : std::to_string(day) + ". " + monthName(month)) + " " +
+                       std::to_string(c.year);
+    const long fiveDays = dayNumber({1929, 10, 1}), sixDays = dayNumber({1931, 12, 1});
+    const long sevenDays = dayNumber({1940, 6, 27});
+    if (jdn >= fiveDays && jdn < sixDays && !h) {
+        // the continuous five-day week ran on through the year and paused on the national days
+        long n = 0;
+        for (long t = fiveDays; t < jdn; ++t) {
+            int m, dd;
+            if (!scheme(civilFromDayNumber(t), m, dd)) ++n;
+        }
+        text += ", " + std::to_string(n % 5 + 1) + ".Tag der Fünftagewoche";
+    } else if (jdn >= sixDays && jdn < sevenDays) {
+        // the six-day week was bound to the days of the civil month, the 31st standing outside
+        if (c.day == 31)
+            text += ", außerhalb der Sechstagewoche";
+        else if (c.day % 6 == 0)
+            text += ", Ruhetag der Sechstagewoche";
+        else
+            text += ", " + std::to_string((c.day - 1) % 6 + 1) + ".Tag der Sechstagewoche";
+    }
+    return text;
+}
+
 }  // namespace
 
 // ---------------------------------------------------------------- feasts and notes
@@ -499,6 +559,7 @@ std::vector<std::string> kalenderZeilen(const Date& d, const Resources& res, boo
         out.push_back("Diskordianischer Kalender\t" + discordian(d));
         if (d.year >= 1789) out.push_back("Positivisten-Kalender\t" + positivist(d, res));
         mars(jdn, out);
+        if (d.year >= 1929 && d.year <= 1940) out.push_back("Sowjetischer Revolutionskalender\t" + soviet(d, jdn));
         out.push_back("John Dee-Kalender\t" + johnDee(jdn));
         out.push_back("Cotsworth-Kalender\t" + cotsworth(d));
         // the rule of the series' writers: 1000 units a year, counted from 2323

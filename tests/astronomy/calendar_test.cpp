@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <map>
 #include <sstream>
 #include <string>
 
@@ -138,4 +139,25 @@ TEST(Calendar, BadDateAndDifference)
     d = differenz({2024, 3, 1}, {1990, 1, 31});
     EXPECT_EQ(d[0], "Differenz\t-12448 Tage");
     EXPECT_EQ(d[2], "\t34 Jahre, 1 Monate, 1 Tage");
+}
+
+TEST(Calendar, SovietYearHasTwelveMonthsOfThirtyDays)
+{
+    // the leap year 1932: 360 month days, each once, and the six days outside the months
+    std::map<std::string, int> seen;
+    int extra = 0;
+    for (long j = dayNumber({1932, 1, 1}); j <= dayNumber({1932, 12, 31}); ++j) {
+        const auto lines = kalenderZeilen(civilFromDayNumber(j), {}, true);
+        std::string text;
+        for (const std::string& l : lines)
+            if (l.rfind("Sowjetischer Revolutionskalender\t", 0) == 0) text = l.substr(l.find('\t') + 1);
+        ASSERT_FALSE(text.empty()) << "day " << j;
+        text = text.substr(0, text.find(','));
+        if (text.find("tag ") != std::string::npos || text.find("Tag der") != std::string::npos) ++extra;
+        EXPECT_EQ(++seen[text], 1) << text << " twice";
+    }
+    EXPECT_EQ(extra, 6);
+    EXPECT_EQ(seen.size(), 366u);
+    EXPECT_EQ(seen.count("30. Februar 1932"), 1u);
+    EXPECT_EQ(seen.count("31. Januar 1932"), 0u);
 }
