@@ -297,6 +297,36 @@ std::string positivist(const Date& c, const Resources& res)
     return std::to_string(k % 28 + 1) + ". " + m[k / 28] + year + ", Tag: " + at(names, k % 28 % 7);
 }
 
+// Solilunar calendar: years of 12 or 13 months from the new moon of 17 March 1999. 2519 long years
+// in 6840 spread evenly, and 1328 of each 2519 long years with an extra day: this keeps the year
+// starts within about a day of the mean new moon and the mean year at 365.2424 days. (Read the
+// other way round, the tests drift off the Moon within a century.) Months alternate 30 and 29 days;
+// a 13-month year has 384 days with 30 in the last month, or 385 with 30 in the 12th month too.
+int solilunarYearLength(long y)
+{
+    const long n = y * 2519;
+    if (floorMod(n, 6840) >= 2519) return 354;
+    return floorMod(floorDiv(n, 6840) * 1328, 2519) < 1328 ? 385 : 384;
+}
+
+std::string solilunar(long jdn)
+{
+    long rest = jdn - 2451255;  // 17 March 1999 is day 0 of the year 1
+    long y = 0;
+    while (rest < 0) rest += solilunarYearLength(--y);
+    while (rest >= solilunarYearLength(y)) rest -= solilunarYearLength(y++);
+    const int len = solilunarYearLength(y);
+    int month = 1;
+    for (;; ++month) {
+        int m = month % 2 == 1 ? 30 : 29;
+        if (len == 385 && month == 12) m = 30;
+        if (rest < m) break;
+        rest -= m;
+    }
+    return std::to_string(rest + 1) + ". Tag des " + std::to_string(month) + ".Monats im Jahr " +
+           std::to_string(y + 1) + " (" + std::to_string(len) + " Tage)";
+}
+
 std::string cotsworth(const Date& c)
 {
     static const char* m[] = {"Januar", "Februar", "März", "April", "Mai", "Juni", "Sol",
@@ -558,6 +588,7 @@ std::vector<std::string> kalenderZeilen(const Date& d, const Resources& res, boo
         out.push_back("Äthiopischer Kalender\t" + coptic(jdn, true));
         out.push_back("Diskordianischer Kalender\t" + discordian(d));
         if (d.year >= 1789) out.push_back("Positivisten-Kalender\t" + positivist(d, res));
+        out.push_back("Solilunar-Kalender\t" + solilunar(jdn));
         mars(jdn, out);
         if (d.year >= 1929 && d.year <= 1940) out.push_back("Sowjetischer Revolutionskalender\t" + soviet(d, jdn));
         out.push_back("John Dee-Kalender\t" + johnDee(jdn));

@@ -1,9 +1,11 @@
 // Calendar lines against known conversions; the cases live in calendar_cases.txt and
 // easter_cases.txt. The authored resources are read from data/texte/ directly.
 #include "astronomy/kalenderspez.h"
+#include "astronomy/ephemeris.h"
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <fstream>
 #include <map>
 #include <sstream>
@@ -160,4 +162,20 @@ TEST(Calendar, SovietYearHasTwelveMonthsOfThirtyDays)
     EXPECT_EQ(seen.size(), 366u);
     EXPECT_EQ(seen.count("30. Februar 1932"), 1u);
     EXPECT_EQ(seen.count("31. Januar 1932"), 0u);
+}
+
+TEST(Calendar, SolilunarYearsBeginAtNewMoonNearTheEquinox)
+{
+    // Every year of the solilunar calendar begins on the day of a new moon (within 1.5 days of the
+    // true new moon of the almanac, Meeus ch. 49) between 1 March and 25 April, 1999 to 2199.
+    for (int y = 1999; y < 2200; y += 5) {
+        long start = 0;
+        for (long j = dayNumber({y, 3, 1}); j <= dayNumber({y, 4, 25}) && !start; ++j)
+            for (const std::string& l : kalenderZeilen(civilFromDayNumber(j), {}, true))
+                if (l.rfind("Solilunar-Kalender\t1. Tag des 1.Monats", 0) == 0) start = j;
+        ASSERT_NE(start, 0) << "no new year in spring " << y;
+        const double jd = start - 0.5;  // 0 h of the first day
+        const double nm = astro::MoonPhaseTime(std::round(astro::lunationIndex(jd + 0.5)), 0);
+        EXPECT_LT(std::fabs(jd + 0.5 - nm), 1.5) << "year " << y << ": starts " << jd << ", new moon " << nm;
+    }
 }
