@@ -292,9 +292,12 @@ std::string positivist(const Date& c, const Resources& res)
     const std::string year = " " + std::to_string(c.year - 1788);
     if (k == 364) return "Festtag der großen Toten" + year;
     if (k == 365) return "Festtag der heiligen Jungfrau" + year;
+    // every day of the year is dedicated to one of the 364 names of the list; without the list the
+    // week day stands in, since every month begins on a Monday
     const auto names = table(res.kalender1, "Positivistentage",
                              {"Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Sonnabend", "Sonntag"});
-    return std::to_string(k % 28 + 1) + ". " + m[k / 28] + year + ", Tag: " + at(names, k % 28 % 7);
+    const std::string name = names.size() >= 364 ? names[k] : at(names, k % 7);
+    return std::to_string(k % 28 + 1) + ". " + m[k / 28] + year + ", Tag: " + name;
 }
 
 // Solilunar calendar: years of 12 or 13 months from the new moon of 17 March 1999. 2519 long years
