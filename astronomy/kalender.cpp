@@ -591,7 +591,7 @@ std::vector<std::string> kalenderZeilen(const Date& d, const Resources& res, boo
         out.push_back("Äthiopischer Kalender\t" + coptic(jdn, true));
         out.push_back("Diskordianischer Kalender\t" + discordian(d));
         if (d.year >= 1789) out.push_back("Positivisten-Kalender\t" + positivist(d, res));
-        out.push_back("Solilunar-Kalender\t" + solilunar(jdn));
+        if (jdn >= 2451255) out.push_back("Solilunar-Kalender\t" + solilunar(jdn));  // from its epoch on
         mars(jdn, out);
         if (d.year >= 1929 && d.year <= 1940) out.push_back("Sowjetischer Revolutionskalender\t" + soviet(d, jdn));
         out.push_back("John Dee-Kalender\t" + johnDee(jdn));
