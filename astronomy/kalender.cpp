@@ -292,9 +292,42 @@ std::string positivist(const Date& c, const Resources& res)
     const std::string year = " " + std::to_string(c.year - 1788);
     if (k == 364) return "Festtag der großen Toten" + year;
     if (k == 365) return "Festtag der heiligen Jungfrau" + year;
+    // every day of the year is dedicated to one of the 364 names of the list; without the list the
+    // week day stands in, since every month begins on a Monday
     const auto names = table(res.kalender1, "Positivistentage",
                              {"Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Sonnabend", "Sonntag"});
-    return std::to_string(k % 28 + 1) + ". " + m[k / 28] + year + ", Tag: " + at(names, k % 28 % 7);
+    const std::string name = names.size() >= 364 ? names[k] : at(names, k % 7);
+    return std::to_string(k % 28 + 1) + ". " + m[k / 28] + year + ", Tag: " + name;
+}
+
+// Solilunar calendar: years of 12 or 13 months from the new moon of 17 March 1999. 2519 long years
+// in 6840 spread evenly, and 1328 of each 2519 long years with an extra day: this keeps the year
+// starts within about a day of the mean new moon and the mean year at 365.2424 days. (Read the
+// other way round, the tests drift off the Moon within a century.) Months alternate 30 and 29 days;
+// a 13-month year has 384 days with 30 in the last month, or 385 with 30 in the 12th month too.
+int solilunarYearLength(long y)
+{
+    const long n = y * 2519;
+    if (floorMod(n, 6840) >= 2519) return 354;
+    return floorMod(floorDiv(n, 6840) * 1328, 2519) < 1328 ? 385 : 384;
+}
+
+std::string solilunar(long jdn)
+{
+    long rest = jdn - 2451255;  // 17 March 1999 is day 0 of the year 1
+    long y = 0;
+    while (rest < 0) rest += solilunarYearLength(--y);
+    while (rest >= solilunarYearLength(y)) rest -= solilunarYearLength(y++);
+    const int len = solilunarYearLength(y);
+    int month = 1;
+    for (;; ++month) {
+        int m = month % 2 == 1 ? 30 : 29;
+        if (len == 385 && month == 12) m = 30;
+        if (rest < m) break;
+        rest -= m;
+    }
+    return std::to_string(rest + 1) + ". Tag des " + std::to_string(month) + ".Monats im Jahr " +
+           std::to_string(y + 1) + " (" + std::to_string(len) + " Tage)";
 }
 
 std::string cotsworth(const Date& c)
@@ -371,6 +404,66 @@ void mars(long jdn, std::vector<std::string>& out)
     out.push_back("Darischer Marskalender\t" + std::to_string(r + 1) + ". " + m[std::min(month, 23)] + " " +
                   std::to_string(y));
     out.push_back("\t" + std::to_string(r % 7 + 1) + ".Wochentag, Sol " + wd[r % 7]);
+}
+
+// Soviet calendar of 1929 to 1940: twelve months of 30 days with the five (six) national days outside
+// every month and week: Lenin's day after 30 January, the leap day after 30 February, the two days
+// of labour after 30 April and the two days of industry after 7 November. 0 for a day of a month.
+int sovietHoliday(int k, bool leap, int& month, int& day)
+{
+    if (k <= 30) {
+        month = 1, day = k;
+        return 0;
+    }
+    if (k == 31) return 1;  // Lenintag
+    if (k <= 61) {
+        month = 2, day = k - 31;
+        return 0;
+    }
+    if (leap) {
+        if (k == 62) return 2;  // Schalttag
+        --k;
+    }
+    if (k == 122 || k == 123) return k - 119;  // 3, 4: days of labour
+    if (k == 311 || k == 312) return k - 306;  // 5, 6: days of industry
+    if (k > 312) k -= 2;
+    if (k > 123) k -= 2;
+    // from here on the months follow each other without a gap
+    month = (k - 62) / 30 + 3, day = (k - 62) % 30 + 1;
+    return 0;
+}
+
+std::string soviet(const Date& c, long jdn)
+{
+    static const char* extra[] = {"", "Lenintag", "Schalttag", "1.Tag der Arbeit", "2.Tag der Arbeit",
+                                  "1.Tag der Industrie", "2.Tag der Industrie"};
+    const auto scheme = [](const Date& x, int& month, int& day) {
+        return sovietHoliday(dayOfYear(x), isLeapCivil(x.year), month, day);
+    };
+    int month = 0, day = 0;
+    const int h = scheme(c, month, day);
+    std::string text = (h ? std::string(extra[h]) : std::to_string(day) + ". " + monthName(month)) + " " +
+                       std::to_string(c.year);
+    const long fiveDays = dayNumber({1929, 10, 1}), sixDays = dayNumber({1931, 12, 1});
+    const long sevenDays = dayNumber({1940, 6, 27});
+    if (jdn >= fiveDays && jdn < sixDays && !h) {
+        // the continuous five-day week ran on through the year and paused on the national days
+        long n = 0;
+        for (long t = fiveDays; t < jdn; ++t) {
+            int m, dd;
+            if (!scheme(civilFromDayNumber(t), m, dd)) ++n;
+        }
+        text += ", " + std::to_string(n % 5 + 1) + ".Tag der Fünftagewoche";
+    } else if (jdn >= sixDays && jdn < sevenDays) {
+        // the six-day week was bound to the days of the civil month, the 31st standing outside
+        if (c.day == 31)
+            text += ", außerhalb der Sechstagewoche";
+        else if (c.day % 6 == 0)
+            text += ", Ruhetag der Sechstagewoche";
+        else
+            text += ", " + std::to_string((c.day - 1) % 6 + 1) + ".Tag der Sechstagewoche";
+    }
+    return text;
 }
 
 }  // namespace
@@ -498,7 +591,9 @@ std::vector<std::string> kalenderZeilen(const Date& d, const Resources& res, boo
         out.push_back("Äthiopischer Kalender\t" + coptic(jdn, true));
         out.push_back("Diskordianischer Kalender\t" + discordian(d));
         if (d.year >= 1789) out.push_back("Positivisten-Kalender\t" + positivist(d, res));
+        if (jdn >= 2451255) out.push_back("Solilunar-Kalender\t" + solilunar(jdn));  // from its epoch on
         mars(jdn, out);
+        if (d.year >= 1929 && d.year <= 1940) out.push_back("Sowjetischer Revolutionskalender\t" + soviet(d, jdn));
         out.push_back("John Dee-Kalender\t" + johnDee(jdn));
         out.push_back("Cotsworth-Kalender\t" + cotsworth(d));
         // the rule of the series' writers: 1000 units a year, counted from 2323

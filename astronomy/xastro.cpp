@@ -78,8 +78,11 @@ Helio helio(const Elem& el, double T)
     return {rev(l), b, r};
 }
 
-// Published leading terms of the periodic correction (longitude in arc minutes, radius in 1e-3 AU),
-// as sine and cosine sums of multiples of L = (JD - 2438000.5) pi / 9600.
+// Periodic correction of the outer planets (longitude in arc minutes, radius in 1e-3 AU) as sine
+// and cosine sums of multiples of L = (JD - 2438000.5) pi / 9600. Jupiter's radius sum is the
+// program's own; the other sums were fitted by us to the series library (SeriesPlanet) over the
+// period of L, JD 2438000.5 to 2457200.5 (1962 to 2015): the fit gives Jupiter's radius sum back
+// to about 0.3e-3 AU, which is how the program's fit was made. Outside that span the sums repeat.
 struct PertRow {
     signed char mult;  // multiple of L
     double sinC, cosC;
@@ -94,11 +97,28 @@ void PlanetPerturbation(const std::string& key, double jd, double& dl, double& d
 {
     dl = 0;
     dr = 0;
+    // rows: multiple of L, sine and cosine coefficient
+    static const std::map<std::string, PertSeries> longitude = {
+        {"Jupiter", {3.8, {{1, 4.1, 1.2}, {2, 1.6, -0.1}, {3, -0.6, 1.1}, {4, 2.2, -1}, {5, -1.3, 3.4}, {6, 0.8, -1},
+                           {7, 0.3, -0.2}, {8, 0.5, 0.2}, {9, 0.1, -0.1}, {10, 0.4, -0.1}}}},
+        {"Saturn", {-8.5, {{1, -14, -2.8}, {2, 6.1, -1.4}, {3, 0.8, 0}, {4, -0.2, -0.3}, {5, 0.1, -0.6}, {6, -0.2, 0.1},
+                           {7, -0.1, 0}, {8, -0.2, -0.1}, {9, -0.1, 0}, {10, -0.1, 0}}}},
+        {"Uranus", {-46.5, {{1, 7.1, -3}, {2, 2.5, -0.8}, {3, 1.7, -0.4}, {4, 0.3, 0.1}, {5, 0.8, -0.1}, {6, 0.7, -0.1},
+                            {7, 0.6, 0}, {8, 0.5, 0}, {9, 0.5, 0}, {10, 0.4, 0}}}},
+        {"Neptun", {32.2, {{1, -2.5, 0}, {2, -0.9, 0}, {3, -0.7, 0}, {4, -1, 0.3}, {5, -0.3, 0}, {6, -0.3, 0},
+                           {7, -0.3, 0}, {8, -0.2, 0}, {9, -0.2, 0}, {10, -0.2, 0}}}},
+    };
     static const std::map<std::string, PertSeries> radius = {
         {"Jupiter",
          {0.2,
           {{5, 2.6, 1.6}, {4, -1.0, -1.1}, {6, -1.1, -0.4}, {2, -0.3, -0.5}, {3, 0.2, 0.6}, {1, 0, -0.6},
            {7, -0.3, 0.2}, {9, 0, 0.2}, {8, 0.2, 0}}}},
+        {"Saturn", {-14.8, {{1, -2.9, 9.1}, {2, -4.2, -15.4}, {3, 3.4, 3}, {4, 0, -0.2}, {5, -0.9, -0.5}, {6, 0.7, 0.3},
+                            {7, 0.2, 0.2}, {8, -0.1, 0}, {9, 0.2, 0}, {10, 0.2, 0}}}},
+        {"Uranus", {-16.1, {{1, -12.4, -15.6}, {2, -5.3, -0.7}, {3, -2.7, 0.2}, {4, -4.3, -4.6}, {5, -2.1, -0.9},
+                            {6, -1.7, -0.5}, {7, -1.5, -0.4}, {8, -1.2, -0.3}, {9, -1.1, -0.2}, {10, -1, -0.1}}}},
+        {"Neptun", {-56.1, {{1, -0.6, 0.1}, {2, -0.1, 1.8}, {3, -0.3, 0.2}, {4, -2.6, -3.7}, {5, 0.4, 0.7}, {6, 0.2, 0.3},
+                            {7, 0.1, 0.2}, {8, 0.1, 0.1}, {9, 0, 0.2}, {10, 0.1, 0.1}}}},
     };
     const double L = (jd - 2438000.5) * kPi / 9600;
     auto sum = [L](const PertSeries& s) {
@@ -108,6 +128,8 @@ void PlanetPerturbation(const std::string& key, double jd, double& dl, double& d
     };
     auto it = radius.find(key);
     if (it != radius.end()) dr = sum(it->second) / 1000;
+    it = longitude.find(key);
+    if (it != longitude.end()) dl = sum(it->second) / 60;
 }
 
 bool isPlanetKey(const std::string& key) { return elementTable().count(key) > 0; }

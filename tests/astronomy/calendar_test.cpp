@@ -1,10 +1,13 @@
 // Calendar lines against known conversions; the cases live in calendar_cases.txt and
 // easter_cases.txt. The authored resources are read from data/texte/ directly.
 #include "astronomy/kalenderspez.h"
+#include "astronomy/ephemeris.h"
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <fstream>
+#include <map>
 #include <sstream>
 #include <string>
 
@@ -138,4 +141,41 @@ TEST(Calendar, BadDateAndDifference)
     d = differenz({2024, 3, 1}, {1990, 1, 31});
     EXPECT_EQ(d[0], "Differenz\t-12448 Tage");
     EXPECT_EQ(d[2], "\t34 Jahre, 1 Monate, 1 Tage");
+}
+
+TEST(Calendar, SovietYearHasTwelveMonthsOfThirtyDays)
+{
+    // the leap year 1932: 360 month days, each once, and the six days outside the months
+    std::map<std::string, int> seen;
+    int extra = 0;
+    for (long j = dayNumber({1932, 1, 1}); j <= dayNumber({1932, 12, 31}); ++j) {
+        const auto lines = kalenderZeilen(civilFromDayNumber(j), {}, true);
+        std::string text;
+        for (const std::string& l : lines)
+            if (l.rfind("Sowjetischer Revolutionskalender\t", 0) == 0) text = l.substr(l.find('\t') + 1);
+        ASSERT_FALSE(text.empty()) << "day " << j;
+        text = text.substr(0, text.find(','));
+        if (text.find("tag ") != std::string::npos || text.find("Tag der") != std::string::npos) ++extra;
+        EXPECT_EQ(++seen[text], 1) << text << " twice";
+    }
+    EXPECT_EQ(extra, 6);
+    EXPECT_EQ(seen.size(), 366u);
+    EXPECT_EQ(seen.count("30. Februar 1932"), 1u);
+    EXPECT_EQ(seen.count("31. Januar 1932"), 0u);
+}
+
+TEST(Calendar, SolilunarYearsBeginAtNewMoonNearTheEquinox)
+{
+    // Every year of the solilunar calendar begins on the day of a new moon (within 1.5 days of the
+    // true new moon of the almanac, Meeus ch. 49) between 1 March and 25 April, 1999 to 2199.
+    for (int y = 1999; y < 2200; y += 5) {
+        long start = 0;
+        for (long j = dayNumber({y, 3, 1}); j <= dayNumber({y, 4, 25}) && !start; ++j)
+            for (const std::string& l : kalenderZeilen(civilFromDayNumber(j), {}, true))
+                if (l.rfind("Solilunar-Kalender\t1. Tag des 1.Monats", 0) == 0) start = j;
+        ASSERT_NE(start, 0) << "no new year in spring " << y;
+        const double jd = start - 0.5;  // 0 h of the first day
+        const double nm = astro::MoonPhaseTime(std::round(astro::lunationIndex(jd + 0.5)), 0);
+        EXPECT_LT(std::fabs(jd + 0.5 - nm), 1.5) << "year " << y << ": starts " << jd << ", new moon " << nm;
+    }
 }
