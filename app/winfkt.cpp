@@ -1187,7 +1187,9 @@ std::vector<std::string> TForm1::volltextSuchen(const std::string& w1, const std
     a.wort2 = w2;
     a.bloecke = store_.letzterBlock();
     const std::string container = lexicon::lexikonpfad + "tlexikon.dll";
-    a.blockLaden = [container](int b) { return platform::loadTextResource(container, "10", "t" + std::to_string(b)); };
+    a.blockText = [container](int b) {
+        return platform::zlibInflate(platform::readResource(container, "10", "t" + std::to_string(b)));
+    };
     a.laeuft = [this]() { return zeitaufwaendig_; };
     a.fortschritt = fortschritt;
     std::vector<std::string> treffer;

@@ -2,6 +2,8 @@
 
 #include "lexicon/einstellungen.h"
 
+#include <string_view>
+
 namespace lexicon {
 
 std::string suchwortZweiteForm(const std::string& wort)
@@ -31,15 +33,37 @@ std::vector<std::string> volltextSuche(const SuchAuftrag& a)
             break;
         if (a.fortschritt)
             a.fortschritt(block, a.bloecke);
-        const platform::StringList zeilen = a.blockLaden(block);
+        // Lines as views into the block's text: no copy of a line is made while searching.
+        std::vector<std::string_view> zeilen;
+        platform::StringList liste;
+        std::string text;
+        if (a.blockText) {
+            text = a.blockText(block);
+            size_t start = 0;
+            while (start < text.size()) {
+                size_t ende = text.find('\n', start);
+                if (ende == std::string::npos)
+                    ende = text.size();
+                size_t stop = ende;
+                if (stop > start && text[stop - 1] == '\r')
+                    --stop;
+                zeilen.emplace_back(text.data() + start, stop - start);
+                start = ende + 1;
+            }
+        } else {
+            liste = a.blockLaden(block);
+            for (const auto& z : liste)
+                zeilen.emplace_back(z);
+        }
         bool erwartekopf = true;
         bool treffer1 = false;
         std::string stichwort, letzter;
         for (size_t i = 0; i < zeilen.size(); ++i) {
-            const std::string* s = &zeilen[i];
-            static const std::string blank = " ";
-            if (s->empty())
-                s = &blank;
+            std::string_view sv = zeilen[i];
+            static const std::string_view blank = " ";
+            if (sv.empty())
+                sv = blank;
+            const std::string_view* s = &sv;
             if ((*s)[0] == '[') {
                 erwartekopf = true;
                 treffer1 = false;
@@ -48,11 +72,11 @@ std::vector<std::string> volltextSuche(const SuchAuftrag& a)
                     i += 2;
                     if (i >= zeilen.size())
                         break;
-                    s = zeilen[i].empty() ? &blank : &zeilen[i];
+                    sv = zeilen[i].empty() ? blank : zeilen[i];
                 }
             }
             if ((*s)[0] == '\xA7' && erwartekopf) {
-                stichwort = s->substr(1, 255);
+                stichwort = std::string(s->substr(1, 255));
                 erwartekopf = false;
             }
             if ((s->find(a.wort1) != std::string::npos || s->find(form1b) != std::string::npos) &&

@@ -107,3 +107,17 @@ TEST(Favourites, ExchangeSortAndTheSixteenBitWrap)
     z[7] = s;
     EXPECT_EQ(favoritenSortieren(z)[0].first, 3);
 }
+
+TEST(FullTextSearch, RawBlockTextGivesTheSameHitsAsLines)
+{
+    SuchAuftrag a;
+    a.wort1 = "Radius";
+    a.wort2 = "Umfang";
+    a.bloecke = 2;
+    a.blockText = [](int) { return platform::joinLines(block()); };
+    SuchAuftrag b = a;
+    b.blockText = nullptr;
+    b.blockLaden = [](int) { return block(); };
+    EXPECT_EQ(volltextSuche(a), volltextSuche(b));
+    EXPECT_FALSE(volltextSuche(a).empty());
+}
