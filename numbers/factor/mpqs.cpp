@@ -816,7 +816,8 @@ MpqsOutcome mpqsSplit(const TVarInt& N, const MpqsParams& P, TVarInt& d, FactorH
             X = mulMod(X, fulls[rowOf[j]].value, N);
             for (uint32_t i : fulls[rowOf[j]].idx)
                 ++ex[i];
-            if (hooks && ++used % 25 == 0 && hooks->yield()) {
+            ++used;
+            if (hooks && used % 25 == 0 && hooks->yield()) {
                 hooks->addLine("Abbruch");
                 return MpqsOutcome::Aborted;
             }
