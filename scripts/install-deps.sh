@@ -2,7 +2,8 @@
 # Installs the Debian packages that building and testing Quorix needs; silent if all are there.
 set -e
 PKGS="cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev libqt6svg6-dev zlib1g-dev libzip-dev
-libpng-dev libjpeg-dev libgif-dev libgtest-dev libgmock-dev fonts-dejavu-core libgl1-mesa-dev"
+libpng-dev libjpeg-dev libgif-dev libgtest-dev libgmock-dev fonts-dejavu-core libgl1-mesa-dev
+pari-gp"
 MISSING=""
 for p in $PKGS; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || MISSING="$MISSING $p"
