@@ -441,7 +441,7 @@ MpqsOutcome mpqsSplit(const TVarInt& N, const MpqsParams& P, TVarInt& d, FactorH
     std::vector<Poly> polys;
     std::vector<uint32_t> s1(size_t(batch) * (F + 1)), s2(size_t(batch) * (F + 1));
     std::vector<uint32_t> n1(F + 1), n2(F + 1);
-    std::vector<double> dqm(size_t(batch) * (F + 1)), dpre(size_t(batch) * (F + 1)), dacc(F + 1), dinv(F + 1);
+    std::vector<double> dqm(size_t(batch) * (F + 1)), dpre(size_t(batch) * (F + 1)), dacc(F + 1), dinv(F + 1), dsum(F + 1);
     std::vector<uint8_t> noRoot(size_t(batch) * (F + 1));
     double t0 = factorNowMs(), lastTick = t0;
     TVarInt Ax, Q, tmp, v;
@@ -544,12 +544,17 @@ MpqsOutcome mpqsSplit(const TVarInt& N, const MpqsParams& P, TVarInt& d, FactorH
             double* qmj = &dqm[size_t(j) * (F + 1)];
             double* prej = &dpre[size_t(j) * (F + 1)];
             uint8_t* nrj = &noRoot[size_t(j) * (F + 1)];
+            // q mod p for all primes at once: row by row of 2^(15 k) mod p, contiguous in i
+            std::fill(dsum.begin(), dsum.end(), 0.0);
+            for (int k = 0; k < nh; ++k) {
+                const double h = qh[k];
+                const double* row = &dpw[size_t(k) * (F + 1)];
+                for (int i = 2; i <= F; ++i)
+                    dsum[i] += h * row[i];
+            }
             for (int i = 2; i <= F; ++i) {
                 const double p = dp[i], ip = invp[i];
-                double a = 0;
-                for (int k = 0; k < nh; ++k)
-                    a += qh[k] * dpw[size_t(k) * (F + 1) + i];
-                a = dmodred(a, p, ip);
+                double a = dmodred(dsum[i], p, ip);
                 a = dmodmul(a, a, p, ip);
                 nrj[i] = a == 0.0;
                 a = a == 0.0 ? 1.0 : a;
@@ -567,14 +572,18 @@ MpqsOutcome mpqsSplit(const TVarInt& N, const MpqsParams& P, TVarInt& d, FactorH
             const double* prej = &dpre[size_t(j) * (F + 1)];
             uint32_t* r1 = &s1[size_t(j) * (F + 1)];
             uint32_t* r2 = &s2[size_t(j) * (F + 1)];
+            std::fill(dsum.begin(), dsum.end(), 0.0);
+            for (int k = 0; k < nh; ++k) {
+                const double h = bh[k];
+                const double* row = &dpw[size_t(k) * (F + 1)];
+                for (int i = 2; i <= F; ++i)
+                    dsum[i] += h * row[i];
+            }
             for (int i = 2; i <= F; ++i) {
                 const double p = dp[i], ip = invp[i];
                 double ai = dmodmul(dinv[i], prej[i], p, ip);  // 1 / qm
                 dinv[i] = dmodmul(dinv[i], qmj[i], p, ip);
-                double bm = 0;
-                for (int k = 0; k < nh; ++k)
-                    bm += bh[k] * dpw[size_t(k) * (F + 1) + i];
-                bm = dmodred(bm, p, ip);
+                double bm = dmodred(dsum[i], p, ip);
                 double ra = dmodmul(dmodadd(droot[i], p - bm, p), ai, p, ip);
                 double rb = dmodmul(dmodadd(droot2[i], p - bm, p), ai, p, ip);
                 r1[i] = uint32_t(dmodadd(ra, dmm[i], p));
