@@ -89,11 +89,17 @@ TEST_F(FactorWindows, TfaktformFactorsAndShowsProgress)
     EXPECT_FALSE(w->running());
     EXPECT_EQ(w->d1->text(), "Faktorisieren");
 
-    // zero does nothing; a prime is reported as such
+    // zero does nothing; one gets no factors and no prime message; a prime is reported as such
     w->LB1->clear();
     w->E1->setText("0");
     w->d1->click();
     EXPECT_EQ(w->LB1->count(), 0);
+    w->E1->setText("1");
+    w->d1->click();
+    QString one = items(w->LB1).join("\n");
+    EXPECT_FALSE(one.contains("Primzahl") || one.contains("Primfaktoren") || one.contains("\t= "))
+        << one.toStdString();
+    w->LB1->clear();
     w->E1->setText("2147483647");
     w->d1->click();
     EXPECT_TRUE(items(w->LB1).contains("Zahl ist wahrscheinlich Primzahl"));
@@ -128,6 +134,35 @@ TEST_F(FactorWindows, TfphaseChainProgressAndAbort)
     EXPECT_TRUE(all.contains("Zahl ist faktorisiert"));
     EXPECT_EQ(w->d26->text(), "Start");
     EXPECT_TRUE(w->LZeit->text().startsWith("Zeit: "));
+
+    // one rho group, curves that fail on two 20-digit primes, a rest above the digit limit: it
+    // goes to a modal Tfaktform and its result text comes back
+    w->LB1->clear();
+    w->E11->setText("10");
+    w->E15->setText("1");
+    w->E8->setText("2626920940793330852865987489732394848221");
+    bool sawSieveWindow = false;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        QWidget* m = QApplication::activeModalWidget();
+        sawSieveWindow = sawSieveWindow || qobject_cast<Tfaktform*>(m) != nullptr;
+    });
+    watch.start(50);
+    QTimer::singleShot(60000, w, [] {  // safety net: a modal window that never returns
+        if (auto* f = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+            f->reject();
+    });
+    w->d26->click();
+    watch.stop();
+    all = items(w->LB1).join("\n");
+    EXPECT_TRUE(sawSieveWindow) << all.toStdString();
+    EXPECT_TRUE(all.contains("Faktorisierung mit elliptischen Kurven")) << all.toStdString();
+    EXPECT_TRUE(all.contains("gefundener Teiler\t27578836091457830909")) << all.toStdString();
+    EXPECT_TRUE(all.contains("gefundener Teiler\t95251334468280329569")) << all.toStdString();
+    EXPECT_TRUE(all.contains("Zahl ist faktorisiert")) << all.toStdString();
+    EXPECT_TRUE(Tfaktform::uebergabe.empty()) << "the hand-over text is taken up";
+    w->E11->setText("50");
+    w->E15->setText("1200");
 
     // 101 digits: the message and no work
     int before = w->LB1->count();
