@@ -98,7 +98,7 @@ struct LimbPowers {
 };
 inline double dmodred(double x, double p, double ip)
 {
-    // rounding by the 1.5 * 2^52 shift keeps the loop in packed doubles
+    // rounding by the 1.5 * 2^52 shift avoids a conversion to integers and back
     const double shift = 6755399441055744.0;
     double r = x - ((x * ip + shift) - shift) * p;
     r += r < 0 ? p : 0;
@@ -527,7 +527,7 @@ MpqsOutcome mpqsSplit(const TVarInt& N, const MpqsParams& P, TVarInt& d, FactorH
 
         // roots of every polynomial for each prime, as cell offsets from x = -M; the inverses of
         // q^2 mod p for the whole batch come from one inverse by running products
-        // Done in doubles over all primes at once (exact below 2^52), so the loops vectorise.
+        // Done in doubles over all primes at once (exact below 2^52), without integer division.
         // a number as halves of 15 bits: their products with 2^(15 m) mod p sum exactly
         auto halvesOf = [](const TVarInt& x, double* h) {
             int n = std::min(x.length(), LimbPowers::Limbs);
