@@ -21,6 +21,7 @@ test: build
 	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS) --timeout 900
 
 bench: deps
+	@./scripts/install-deps.sh extra
 	@cmake -S . -B build-release -G Ninja -DCMAKE_BUILD_TYPE=Release >/dev/null
 	@cmake --build build-release -j $(JOBS) --target quorix_benchmarks
 	@build-release/bench/run_benchmarks.sh $(BENCH)
@@ -29,6 +30,7 @@ install: build
 	cmake --install $(BUILD) $(if $(PREFIX),--prefix $(PREFIX),)
 
 fuzz: deps
+	@./scripts/install-deps.sh extra
 	./fuzz/run.sh $(FUZZ_SECONDS)
 
 clean:
