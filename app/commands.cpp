@@ -7,6 +7,7 @@
 #include "crypto/commands.h"
 #include "graphs/commands.h"
 #include "numbers/commands.h"
+#include "numbers/factor/factorcommands.h"
 #include "kernel/commands.h"
 #include "kernel/term.h"
 #include "kernel/termcommands.h"
@@ -280,7 +281,8 @@ std::vector<quorix::HeadlessCommand> alleBefehle()
 {
     std::vector<quorix::HeadlessCommand> alle = appCommands();
     for (auto* satz : {&kernel::kernelCommands, &quorix::termCommands, &platform::platformCommands, &crypto::cryptoCommands,
-                       &::astronomyCommands, &::numbersCommands, &graphs::graphsCommands}) {
+                       &::astronomyCommands, &::numbersCommands, &graphs::graphsCommands,
+                       &::factorCommands}) {
         auto mehr = satz();
         alle.insert(alle.end(), mehr.begin(), mehr.end());
     }
