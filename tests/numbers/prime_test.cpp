@@ -67,10 +67,10 @@ TEST(PrimeTable, WordTableAndNthPrime)
 // those bases decide alone, from it on the bases 2, 7 and 61 take over.
 TEST(PrimeWord, BasesSwitchAt9080191)
 {
+    fillPrimeTable(PrimeTableBound);  // each test may run alone in its own process
     EXPECT_FALSE(isPrime32(9080191u));
     EXPECT_TRUE(isPrime32(9080189u) == (std::binary_search(primeTable.begin(), primeTable.end(), 9080189u)));
     // exhaustively against the sieve below the switch, and on a stretch above it
-    fillPrimeTable(PrimeTableBound);
     size_t k = 0;
     for (uint32_t n = 0; n < 9080191u + 200000u; ++n) {
         bool table = k < primeTable.size() && primeTable[k] == n;
