@@ -1,4 +1,5 @@
 #include "lexicon/seitenrechner.h"
+#include "lexicon/seitenrechner_intern.h"
 
 #include "lexicon/einstellungen.h"
 #include "lexicon/linkroute.h"
@@ -143,7 +144,30 @@ struct Mitglied {
 
 const std::vector<Mitglied>& mitglieder()
 {
-    static const std::vector<Mitglied> m = {{1, mittelwerte}, {2, zweiZahlen}, {4, periode}};
+    using namespace rechner;
+    static const std::vector<Mitglied> m = {
+        {1, mittelwerte},
+        {2, zweiZahlen},
+        {4, periode},
+        {5, dreieckAusFlaecheRadien},
+        {6, elliptischeFunktionen},
+        {7, quadratwurzelHeron},
+        {8, dreieckAusSeiten},
+        {9, zinseszins},
+        {10, ggtKgv},
+        {11, primfaktoren},
+        {12, quadratischeGleichung},
+        {13, binomialkoeffizient},
+        {14, fakultaet},
+        {15, osterdatum},
+        {16, primzahltest},
+        {17, binomialverteilung},
+        {18, wochentag},
+        {19, roemischeZahlen},
+        {20, zahlbasen},
+        {22, collatzFolge},
+        {23, kettenbruch},
+    };
     return m;
 }
 
@@ -153,6 +177,20 @@ void seitenrechnerVorbereiten(int aktivnummer, SeitenrechnerFelder& f)
 {
     f.l12.clear();
     f.ed1Breit = aktivnummer == 514;
+    switch (aktivnummer) {
+    case 5:
+        f.l12 = "Inkreisradius";
+        break;
+    case 8:
+    case 12:
+        f.l12 = "c =";
+        break;
+    case 9:
+        f.l12 = "n = ";
+        break;
+    default:
+        break;
+    }
     if (aktivnummer == 523 || aktivnummer == 524) {
         const std::time_t t = std::time(nullptr);
         const std::tm* lt = std::localtime(&t);
