@@ -133,19 +133,23 @@ void quadratischeGleichung(R& r)
         return;
     }
     const double D = b * b - 4 * a * c;
-    zeileAus(r, "Diskriminante D =\t" + zahl(D));
-    if (D > 0) {
+    zeileAus(r, "Diskriminante D =\t" + (std::isfinite(D) ? zahl(D) : std::string("\xDC" "berlauf")));
+    // The roots from the coefficients scaled to at most 1, so b^2 cannot overflow.
+    const double m = std::max({std::fabs(a), std::fabs(b), std::fabs(c)});
+    const double as = a / m, bs = b / m, cs = c / m;
+    const double Ds = bs * bs - 4 * as * cs;
+    if (Ds > 0) {
         // No cancellation: the larger root from the formula, the other by Vieta.
-        const double q = -0.5 * (b + std::copysign(std::sqrt(D), b));
-        double x1 = q / a, x2 = c / q;
+        const double q = -0.5 * (bs + std::copysign(std::sqrt(Ds), bs));
+        double x1 = q / as, x2 = cs / q;
         if (x1 > x2)
             std::swap(x1, x2);
         zeileAus(r, "x1 =\t" + zahl(x1));
         zeileAus(r, "x2 =\t" + zahl(x2));
-    } else if (D == 0) {
-        zeileAus(r, "x =\t" + zahl(-b / (2 * a)));
+    } else if (Ds == 0) {
+        zeileAus(r, "x =\t" + zahl(-bs / (2 * as)));
     } else {
-        const double u = -b / (2 * a), v = std::sqrt(-D) / (2 * std::fabs(a));
+        const double u = -bs / (2 * as), v = std::sqrt(-Ds) / (2 * std::fabs(as));
         zeileAus(r, "keine reelle L\xF6sung");
         zeileAus(r, "x1 = " + zahl(u) + " + " + zahl(v) + "i");
         zeileAus(r, "x2 = " + zahl(u) + " - " + zahl(v) + "i");
