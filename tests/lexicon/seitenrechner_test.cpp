@@ -224,3 +224,27 @@ TEST(PageCalculators, LoopsStopWhenTheFlagIsCleared)
     EXPECT_EQ(runden, 1);
     EXPECT_EQ(r.zeilen.back().rfind("abgebrochen", 0), 0u) << alle(r);
 }
+
+// Fields go through the shell's term reader, for integers as well as reals.
+TEST(PageCalculators, FieldsAcceptTermsThroughTheReader)
+{
+    const auto alt = feldWertLesen;
+    feldWertLesen = [alt](const std::string& s, bool& ok) {
+        if (s == "2^10") {
+            ok = true;
+            return 1024.0;
+        }
+        if (s == "-SQR(3)") {
+            ok = true;
+            return -9.0;
+        }
+        return alt(s, ok);
+    };
+    auto r = rahmen("2^10", "16");
+    seitenrechnerStarten(20, r);
+    auto q = rahmen("1", "-4", "-SQR(3)");
+    seitenrechnerStarten(12, q);
+    feldWertLesen = alt;
+    EXPECT_EQ(r.zeilen.back(), "Basis 16\t400") << alle(r);
+    EXPECT_EQ(q.zeilen.back(), "x2 =\t5.6055512755") << alle(q);  // 2 + sqrt(13)
+}
