@@ -71,8 +71,9 @@ int cmdPage(quorix::Args args, std::ostream& out, std::ostream& err)
     std::string png, size;
     quorix::takeOption(args, "--png", png);
     const bool mitGroesse = quorix::takeOption(args, "--size", size);
+    const bool ganzesFenster = quorix::takeFlag(args, "--window");
     if (args.size() != 1) {
-        err << "Aufruf: quorix page STICHWORT|#NUMMER [--png DATEI] [--size BxH]\n";
+        err << "Aufruf: quorix page STICHWORT|#NUMMER [--png DATEI] [--size BxH] [--window]\n";
         return 2;
     }
     int w = 1008, h = 710;
@@ -102,7 +103,10 @@ int cmdPage(quorix::Args args, std::ostream& out, std::ostream& err)
     out << "Titel\t" << utf8(f.seitentitel()) << "\n";
     for (const auto& l : f.linkfeld())
         out << "Link\t" << l.x1 << "\t" << l.y1 << "\t" << l.x2 << "\t" << utf8(l.text) << "\n";
-    if (!png.empty() && !f.seitenbild().savePng(png)) {
+    // --window: the whole main window with keyword list and side panel, as the user sees it.
+    const bool gespeichert = png.empty() || (ganzesFenster ? f.grab().save(QString::fromStdString(png), "PNG")
+                                                            : f.seitenbild().savePng(png));
+    if (!gespeichert) {
         err << "Bild kann nicht gespeichert werden: " << png << "\n";
         return 1;
     }
@@ -266,7 +270,7 @@ int cmdLint(quorix::Args args, std::ostream& out, std::ostream& err)
 std::vector<quorix::HeadlessCommand> appCommands()
 {
     return {
-        {"page", "page STICHWORT|#NUMMER [--png DATEI] [--size BxH]  Seite zeichnen, Links auflisten", cmdPage},
+        {"page", "page STICHWORT|#NUMMER [--png DATEI] [--size BxH] [--window]  Seite zeichnen, Links auflisten", cmdPage},
         {"catalog", "catalog TITEL  Werkzeugnummer, Seite und Punkt eines Katalogtitels", cmdCatalog},
         {"keywords", "keywords  die Stichwortliste mit Seitennummern", cmdKeywords},
         {"tool", "tool N [--page P] [--item I] --png DATEI  Bild eines Werkzeugfensters (0: Hauptfenster)", cmdTool},

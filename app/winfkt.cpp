@@ -237,15 +237,27 @@ void TForm1::FormCreate(bool headless)
     auto* S19 = knopf(P6, "\xE2\x97\x80", "Thema zur\xC3\xBC" "ckbl\xC3\xA4ttern");
     auto* S20 = knopf(P6, "\xE2\x96\xB6", "Thema weiterbl\xC3\xA4ttern");
     auto* s27 = knopf(P6, "\xE2\x86\xA9", "Letztes Thema");
-    for (auto* b : {S28, S3, S21, S7, S19, S20, s27})
+    for (auto* b : {S28, S3, S21, S7, S19, S20, s27}) {
+        // The title keeps the room; the arrows are small square buttons.
+        if (b != S28 && b != S3)
+            b->setFixedWidth(34);
+        b->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
         p6lay->addWidget(b);
+    }
+    titelLabel_->setMinimumWidth(120);
     connect(S19, &QPushButton::clicked, this, &TForm1::S2C);
     connect(S20, &QPushButton::clicked, this, &TForm1::S1C);
     connect(s27, &QPushButton::clicked, this, &TForm1::T1C);
     connect(S7, &QPushButton::clicked, this, &TForm1::R1C);
     connect(S21, &QPushButton::clicked, this, &TForm1::H1C);
     connect(S28, &QPushButton::clicked, this, [this]() {
-        QApplication::clipboard()->setText(QString::fromStdString(titel_));
+        // The page as a picture: what the reader sees, formulas included.
+        platform::CopyPicture(seitenbild_.width(), seitenbild_.height(),
+                              [this](platform::Canvas& c, int, int) { c.draw(0, 0, seitenbild_); }, this);
+    });
+    connect(S3, &QPushButton::clicked, this, [this]() {
+        platform::PrintPicture(seitenbild_.width(), seitenbild_.height(),
+                               [this](platform::Canvas& c, int, int) { c.draw(0, 0, seitenbild_); }, this);
     });
     PBox1 = new PaintBox(this, P5);
 
