@@ -438,7 +438,14 @@ void TForm1::menueAufbauen()
         {"S2C", [this]() { S2C(); }},
         {"T1C", [this]() { T1C(); }},
         {"B2C", [this]() { B2C(); }},
-        {"S28C", [this]() { QApplication::clipboard()->setText(QString::fromStdString(titel_)); }},
+        {"S28C", [this]() {
+             platform::CopyPicture(seitenbild_.width(), seitenbild_.height(),
+                                   [this](platform::Canvas& c, int, int) { c.draw(0, 0, seitenbild_); }, this);
+         }},
+        {"Dr1C", [this]() {
+             platform::PrintPicture(seitenbild_.width(), seitenbild_.height(),
+                                    [this](platform::Canvas& c, int, int) { c.draw(0, 0, seitenbild_); }, this);
+         }},
         {"N769Click", []() { QDesktopServices::openUrl(QUrl("https://quorix.example.org")); }},
         {"M233C", []() {
              QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(lexicon::lexikonpfad + "handbuch.pdf")));
