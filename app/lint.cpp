@@ -1,6 +1,7 @@
 #include "app/lint.h"
 
 #include "app/winfkt.h"
+#include "lexicon/linkroute.h"
 #include "lexicon/pagestore.h"
 #include "platform/codepage.h"
 #include "platform/container.h"
@@ -104,25 +105,18 @@ int lexikonPruefen(TForm1& form, std::ostream& out)
             if (t.find("http") != std::string::npos)
                 continue;
             if (t.size() >= 3 && t[0] == '\xBB' && t[2] == ':' && std::string("BCFGRTV").find(t[1]) != std::string::npos) {
-                std::string wert = t.size() > 4 ? t.substr(3, t.size() - 4) : std::string();
-                while (!wert.empty() && wert[0] == ' ')
-                    wert.erase(0, 1);
+                const std::string wert = lexicon::markerWert(t);
                 if (t[1] == 'V' && !(seiten.count(n + 1) && hatMarker(seiten[n + 1].body, 'R')))
                     melde(n, s.stichwort, "V:-Link führt nicht zur Fortsetzung desselben Artikels");
                 if (t[1] == 'R' && !(seiten.count(n - 1) && hatMarker(seiten[n - 1].body, 'V')))
                     melde(n, s.stichwort, "R:-Link führt nicht zum Anfang desselben Artikels");
-                if (t[1] == 'F' && lintTermPruefen && !wert.empty() && wert[0] != 'D' && wert[0] != 'K' &&
-                    wert[0] != '~') {
-                    size_t start = 0;
-                    while (start <= wert.size()) {
-                        const size_t semi = wert.find(';', start);
-                        const std::string term = wert.substr(start, semi == std::string::npos ? std::string::npos : semi - start);
-                        if (!term.empty() && !lintTermPruefen(term))
-                            melde(n, s.stichwort, "F:-Term wird nicht angenommen: " + platform::cp1252ToUtf8(term));
-                        if (semi == std::string::npos)
-                            break;
-                        start = semi + 1;
-                    }
+                if (t[1] == 'F' && lintTermPruefen && !wert.empty() && wert[0] != '~') {
+                    // The terms as the plot link hands them to the plotter: each behind a "#F" line.
+                    const auto plot = lexicon::plotAuftragAusWert(wert);
+                    for (size_t k = 0; k + 1 < plot.plotliste.size(); ++k)
+                        if (plot.plotliste[k] == "#F" && !lintTermPruefen(plot.plotliste[k + 1]))
+                            melde(n, s.stichwort,
+                                  "F:-Term wird nicht angenommen: " + platform::cp1252ToUtf8(plot.plotliste[k + 1]));
                 }
                 continue;
             }
@@ -132,16 +126,7 @@ int lexikonPruefen(TForm1& form, std::ostream& out)
                     melde(n, s.stichwort, "Werkzeuglink ohne Katalogtitel: " + platform::cp1252ToUtf8(t.substr(1)));
                 continue;
             }
-            std::string klein = t;
-            if (!klein.empty() && klein[0] >= 'A' && klein[0] <= 'Z')
-                klein[0] = static_cast<char>(klein[0] + 32);
-            bool gefunden = false;
-            for (const auto& zeile : form.lb1Zeilen())
-                if (zeile.rfind(t, 0) == 0 || zeile.rfind(klein, 0) == 0) {
-                    gefunden = true;
-                    break;
-                }
-            if (!gefunden || t.empty())
+            if (t.empty() || lexicon::stichwortIndex(form.lb1Zeilen(), t) < 0)
                 melde(n, s.stichwort, "toter Link: " + platform::cp1252ToUtf8(t));
         }
         if (links.size() > 120)

@@ -250,15 +250,8 @@ void TForm1::FormCreate(bool headless)
     connect(s27, &QPushButton::clicked, this, &TForm1::T1C);
     connect(S7, &QPushButton::clicked, this, &TForm1::R1C);
     connect(S21, &QPushButton::clicked, this, &TForm1::H1C);
-    connect(S28, &QPushButton::clicked, this, [this]() {
-        // The page as a picture: what the reader sees, formulas included.
-        platform::CopyPicture(seitenbild_.width(), seitenbild_.height(),
-                              [this](platform::Canvas& c, int, int) { c.draw(0, 0, seitenbild_); }, this);
-    });
-    connect(S3, &QPushButton::clicked, this, [this]() {
-        platform::PrintPicture(seitenbild_.width(), seitenbild_.height(),
-                               [this](platform::Canvas& c, int, int) { c.draw(0, 0, seitenbild_); }, this);
-    });
+    connect(S28, &QPushButton::clicked, this, &TForm1::S28C);
+    connect(S3, &QPushButton::clicked, this, &TForm1::Dr1C);
     PBox1 = new PaintBox(this, P5);
 
     // Side panel P12 with the page calculator
@@ -438,14 +431,8 @@ void TForm1::menueAufbauen()
         {"S2C", [this]() { S2C(); }},
         {"T1C", [this]() { T1C(); }},
         {"B2C", [this]() { B2C(); }},
-        {"S28C", [this]() {
-             platform::CopyPicture(seitenbild_.width(), seitenbild_.height(),
-                                   [this](platform::Canvas& c, int, int) { c.draw(0, 0, seitenbild_); }, this);
-         }},
-        {"Dr1C", [this]() {
-             platform::PrintPicture(seitenbild_.width(), seitenbild_.height(),
-                                    [this](platform::Canvas& c, int, int) { c.draw(0, 0, seitenbild_); }, this);
-         }},
+        {"S28C", [this]() { S28C(); }},
+        {"Dr1C", [this]() { Dr1C(); }},
         {"N769Click", []() { QDesktopServices::openUrl(QUrl("https://quorix.example.org")); }},
         {"M233C", []() {
              QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(lexicon::lexikonpfad + "handbuch.pdf")));
@@ -828,15 +815,7 @@ void TForm1::NeueSeite()
         const std::string& zeile = store_.seitenblock[z];
         if (zeile.rfind("\xA7", 0) != 0)
             return;
-        const std::string key = zeile.substr(1, 65);
-        auto it = std::lower_bound(stichworte_.begin(), stichworte_.end(), key, lexicon::keywordLess);
-        int pos = static_cast<int>(it - stichworte_.begin());
-        if (pos >= LB1->count())
-            pos = LB1->count() - 1;
-        malt_ = true;
-        LB1->setCurrentRow(pos);
-        malt_ = false;
-        LB1C();
+        stichwortSuchenUndZeigen(zeile.substr(1, 65));
     } catch (const std::exception& e) {
         myexceptionhandler(e.what());
     }
@@ -868,10 +847,7 @@ void TForm1::PB1D(int x, int y)
         switch (a.art) {
         case KlickAktion::Stichwort:
             letzteAktion_ = "stichwort:" + std::to_string(a.index);
-            malt_ = true;
-            LB1->setCurrentRow(a.index);
-            malt_ = false;
-            LB1C();
+            zeileZeigen(a.index);
             break;
         case KlickAktion::Werkzeug: {
             letzteAktion_ = "werkzeug:" + std::to_string(a.werkzeug.nummer);
@@ -1025,10 +1001,7 @@ void TForm1::R1C()
 {
     const int i = LB1->currentRow();
     if (i + 1 < LB1->count()) {
-        malt_ = true;
-        LB1->setCurrentRow(i + 1);
-        malt_ = false;
-        LB1C();
+        zeileZeigen(i + 1);
     }
 }
 
@@ -1036,10 +1009,7 @@ void TForm1::H1C()
 {
     const int i = LB1->currentRow();
     if (i > 0) {
-        malt_ = true;
-        LB1->setCurrentRow(i - 1);
-        malt_ = false;
-        LB1C();
+        zeileZeigen(i - 1);
     }
 }
 
@@ -1132,10 +1102,7 @@ bool TForm1::stichwortWaehlen(const std::string& stichwort)
 {
     for (size_t i = 0; i < stichworte_.size(); ++i) {
         if (stichworte_[i] == stichwort) {
-            malt_ = true;
-            LB1->setCurrentRow(static_cast<int>(i));
-            malt_ = false;
-            LB1C();
+            zeileZeigen(static_cast<int>(i));
             return true;
         }
     }
@@ -1235,10 +1202,15 @@ void TForm1::stichwortSuchenUndZeigen(const std::string& text)
     int pos = static_cast<int>(it - stichworte_.begin());
     if (pos >= LB1->count())
         pos = LB1->count() - 1;
-    if (pos < 0)
-        return;
+    if (pos >= 0)
+        zeileZeigen(pos);
+}
+
+void TForm1::zeileZeigen(int zeile)
+{
+    // Selecting must not paint through the list's signal: LB1C paints once, here.
     malt_ = true;
-    LB1->setCurrentRow(pos);
+    LB1->setCurrentRow(zeile);
     malt_ = false;
     LB1C();
 }
@@ -1298,6 +1270,23 @@ void TForm1::S12C(bool zusatztexte)
     }
     lexicon::werkzeugtitel = platform::toCp1252(d.gewaehlt());
     xmenu(lexicon::werkzeugtitel);
+}
+
+}  // namespace app
+
+namespace app {
+
+// The page as a picture: what the reader sees, formulas included.
+void TForm1::S28C()
+{
+    platform::CopyPicture(seitenbild_.width(), seitenbild_.height(),
+                          [this](platform::Canvas& c, int, int) { c.draw(0, 0, seitenbild_); }, this);
+}
+
+void TForm1::Dr1C()
+{
+    platform::PrintPicture(seitenbild_.width(), seitenbild_.height(),
+                           [this](platform::Canvas& c, int, int) { c.draw(0, 0, seitenbild_); }, this);
 }
 
 }  // namespace app

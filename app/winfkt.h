@@ -47,6 +47,8 @@ public:
     void B2C();   // start picture on/off
     void B1C();   // side panel calculation
     void S3C();
+    void S28C();  // copy the page
+    void Dr1C();  // print the page
 
     // Tools
     void _M(int nummer, const QString& caption);
@@ -95,6 +97,7 @@ public:
     QStringList seitenrechnerZeilen() const;
     void seitenrechnerFelder(const QString& a, const QString& b, const QString& c = {});
     void anordnen();
+    void zeileZeigen(int zeile);  // select an LB1 row and paint its page
 
 protected:
     void resizeEvent(QResizeEvent* e) override;

@@ -1,5 +1,7 @@
 #include "lexicon/einstellungen.h"
 
+#include "kernel/realtostr.h"
+
 #include <cctype>
 #include <cmath>
 #include <cstdio>
@@ -52,18 +54,6 @@ int intLesen(const platform::StringList& z, const std::string& key)
 bool flagLesen(const platform::StringList& z, const std::string& key)
 {
     return stringLesen(z, key) == "1";
-}
-
-std::string realText(double v)
-{
-    char buf[64];
-    std::snprintf(buf, sizeof buf, "%.10f", v);
-    std::string s = buf;
-    while (!s.empty() && s.back() == '0')
-        s.pop_back();
-    if (!s.empty() && s.back() == '.')
-        s.pop_back();
-    return s == "-0" ? "0" : s;
 }
 
 std::string trimmed(const std::string& s)
@@ -215,10 +205,10 @@ platform::StringList einstellungenSchreiben(const Einstellungen& e, const platfo
     auto w = [&](const std::string& k, const std::string& v) { iniSchreiben(z, s, k, v); };
     auto wi = [&](const std::string& k, int v) { w(k, std::to_string(v)); };
     auto wb = [&](const std::string& k, bool v) { w(k, v ? "1" : "0"); };
-    w("X1", realText(e.x1));
-    w("X2", realText(e.x2));
-    w("Y1", realText(e.y1));
-    w("Y2", realText(e.y2));
+    w("X1", kernel::RealToStrDot(1, 10, e.x1));
+    w("X2", kernel::RealToStrDot(1, 10, e.x2));
+    w("Y1", kernel::RealToStrDot(1, 10, e.y1));
+    w("Y2", kernel::RealToStrDot(1, 10, e.y2));
     w("Schrift", e.schrift);
     w("Druckschrift", e.druckschrift);
     w("Drucker", e.drucker);
@@ -228,10 +218,10 @@ platform::StringList einstellungenSchreiben(const Einstellungen& e, const platfo
     wi("Listboxschrift", e.listboxschrift);
     w("Spieler", e.spieler);
     w("GOrt", e.gOrt);
-    w("GBreite", realText(e.gBreite));
-    w("GLaenge", realText(e.gLaenge));
-    w("GZeit", realText(e.gZeit));
-    w("GrGeschw", realText(e.grGeschw));
+    w("GBreite", kernel::RealToStrDot(1, 10, e.gBreite));
+    w("GLaenge", kernel::RealToStrDot(1, 10, e.gLaenge));
+    w("GZeit", kernel::RealToStrDot(1, 10, e.gZeit));
+    w("GrGeschw", kernel::RealToStrDot(1, 10, e.grGeschw));
     wi("GrafikSchrift", e.grafikSchrift);
     wi("LinksDruck", e.linksDruck);
     wi("RechtsDruck", e.rechtsDruck);

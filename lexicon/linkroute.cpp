@@ -1,5 +1,7 @@
 #include "lexicon/linkroute.h"
 
+#include "kernel/realtostr.h"
+
 #include <cmath>
 #include <cstdio>
 #include <numbers>
@@ -14,6 +16,26 @@ int linkAnPunkt(const std::vector<LinkEintrag>& links, int x, int y)
             return static_cast<int>(i);
     }
     return -1;
+}
+
+int stichwortIndex(const platform::StringList& lb1, const std::string& text)
+{
+    std::string klein = text;
+    if (!klein.empty() && klein[0] >= 'A' && klein[0] <= 'Z')
+        klein[0] = static_cast<char>(klein[0] + 32);
+    for (size_t k = 0; k < lb1.size(); ++k)
+        if (lb1[k].rfind(text, 0) == 0 || lb1[k].rfind(klein, 0) == 0)
+            return static_cast<int>(k);
+    return -1;
+}
+
+std::string markerWert(const std::string& text)
+{
+    std::string wert = text.size() > 4 ? text.substr(3, text.size() - 4) : std::string();
+    // "»F: X^2«" and "»F:X^2«" mean the same: the value is what follows "F: ".
+    while (!wert.empty() && wert[0] == ' ')
+        wert.erase(0, 1);
+    return wert;
 }
 
 KlickAktion klickAuswerten(const std::vector<LinkEintrag>& links, int x, int y,
@@ -34,16 +56,7 @@ KlickAktion klickAuswerten(const std::vector<LinkEintrag>& links, int x, int y,
         return a;
     a.linkIndex = i;
     a.text = text;
-    std::string klein = text;
-    if (!klein.empty() && klein[0] >= 'A' && klein[0] <= 'Z')
-        klein[0] = static_cast<char>(klein[0] + 32);
-    int i2 = -1;
-    for (size_t k = 0; k < lb1.size(); ++k) {
-        if (lb1[k].rfind(text, 0) == 0 || lb1[k].rfind(klein, 0) == 0) {
-            i2 = static_cast<int>(k);
-            break;
-        }
-    }
+    const int i2 = stichwortIndex(lb1, text);
     const bool werkzeugText = text.rfind("\xBB", 0) == 0;
     if (i2 < 0 && !werkzeugText)
         return a;
@@ -58,10 +71,7 @@ KlickAktion klickAuswerten(const std::vector<LinkEintrag>& links, int x, int y,
         a.text = key;
         return a;
     }
-    a.wert = text.size() > 4 ? text.substr(3, text.size() - 4) : std::string();
-    // "»F: X^2«" and "»F:X^2«" mean the same: the value is what follows "F: ".
-    while (!a.wert.empty() && a.wert[0] == ' ')
-        a.wert.erase(0, 1);
+    a.wert = markerWert(text);
     if (text.find("F:") != std::string::npos) {
         a.art = KlickAktion::Funktionsplot;
     } else if (text.find("C:") != std::string::npos) {
@@ -90,22 +100,6 @@ KlickAktion klickAuswerten(const std::vector<LinkEintrag>& links, int x, int y,
     return a;
 }
 
-std::string zahlText10(double v)
-{
-    char buf[64];
-    std::snprintf(buf, sizeof buf, "%.10f", v);
-    std::string s = buf;
-    if (s.find('.') != std::string::npos) {
-        while (!s.empty() && s.back() == '0')
-            s.pop_back();
-        if (!s.empty() && s.back() == '.')
-            s.pop_back();
-    }
-    if (s == "-0")
-        s = "0";
-    return s;
-}
-
 PlotAuftrag plotAuftragAusWert(const std::string& wert)
 {
     PlotAuftrag p;
@@ -120,9 +114,9 @@ PlotAuftrag plotAuftragAusWert(const std::string& wert)
     auto kurvenblock = [&](const char* kopf, double von) {
         p.plotliste.push_back(kopf);
         p.plotliste.push_back("");
-        p.plotliste.push_back(zahlText10(von));
-        p.plotliste.push_back(zahlText10(pi));
-        p.plotliste.push_back(zahlText10(0.01));
+        p.plotliste.push_back(kernel::RealToStrDot(1, 10, von));
+        p.plotliste.push_back(kernel::RealToStrDot(1, 10, pi));
+        p.plotliste.push_back(kernel::RealToStrDot(1, 10, 0.01));
         p.plotliste.push_back("0");
         p.plotliste.push_back("0");
     };

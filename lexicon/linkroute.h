@@ -41,6 +41,12 @@ struct KlickAktion {
 KlickAktion klickAuswerten(const std::vector<LinkEintrag>& links, int x, int y,
                            const platform::StringList& lb1, const ToolCatalog& katalog);
 
+// The click rule's keyword match: the first LB1 item that begins with the text, or with the
+// text's first letter lowered; -1 if none.
+int stichwortIndex(const platform::StringList& lb1, const std::string& text);
+// The value of a marker link "»F: X^2«": without "»F:", the blanks behind it and the closing "«".
+std::string markerWert(const std::string& text);
+
 // The plot request of an "F:" link.
 struct PlotAuftrag {
     bool flaeche = false;
@@ -51,8 +57,5 @@ struct PlotAuftrag {
     double skalierung = 0;           // 1 for parametric and polar curves, 0: unchanged
 };
 PlotAuftrag plotAuftragAusWert(const std::string& wert);
-
-// Ten decimals, trailing zeros trimmed, decimal point: the numbers of a plot script.
-std::string zahlText10(double v);
 
 }  // namespace lexicon

@@ -2,6 +2,7 @@
 #include "lexicon/seitenrechner_intern.h"
 
 #include "lexicon/einstellungen.h"
+#include "kernel/realtostr.h"
 #include "lexicon/linkroute.h"
 
 #include <cmath>
@@ -60,13 +61,13 @@ void mittelwerte(SeitenrechnerRahmen& r)
 void zweiZahlen(SeitenrechnerRahmen& r)
 {
     const double a = wert(r.ed1), b = wert(r.ed2);
-    r.zeilen.push_back("Summe a+b = " + zahlText10(a + b));
-    r.zeilen.push_back("Differenz a-b = " + zahlText10(a - b));
-    r.zeilen.push_back("Differenz b-a = " + zahlText10(b - a));
-    r.zeilen.push_back("Produkt a\xB7" "b = " + zahlText10(a * b));
-    r.zeilen.push_back("Quotient a/b = " + (b != 0 ? zahlText10(a / b) : std::string("-")));
-    r.zeilen.push_back("Quotient b/a = " + (a != 0 ? zahlText10(b / a) : std::string("-")));
-    r.zeilen.push_back("Mittelwert = " + zahlText10((a + b) / 2));
+    r.zeilen.push_back("Summe a+b = " + kernel::RealToStrDot(1, 10, a + b));
+    r.zeilen.push_back("Differenz a-b = " + kernel::RealToStrDot(1, 10, a - b));
+    r.zeilen.push_back("Differenz b-a = " + kernel::RealToStrDot(1, 10, b - a));
+    r.zeilen.push_back("Produkt a\xB7" "b = " + kernel::RealToStrDot(1, 10, a * b));
+    r.zeilen.push_back("Quotient a/b = " + (b != 0 ? kernel::RealToStrDot(1, 10, a / b) : std::string("-")));
+    r.zeilen.push_back("Quotient b/a = " + (a != 0 ? kernel::RealToStrDot(1, 10, b / a) : std::string("-")));
+    r.zeilen.push_back("Mittelwert = " + kernel::RealToStrDot(1, 10, (a + b) / 2));
 }
 
 // Member 4: pre-period and period of the decimal fraction a/b by long division.
@@ -197,8 +198,8 @@ void seitenrechnerVorbereiten(int aktivnummer, SeitenrechnerFelder& f)
         f.ed1 = std::to_string(lt->tm_mday);
         f.ed2 = std::to_string(lt->tm_mon + 1);
     } else if (aktivnummer == 541) {
-        f.ed1 = zahlText10(einstellungen.gBreite);
-        f.ed2 = zahlText10(einstellungen.gLaenge);
+        f.ed1 = kernel::RealToStrDot(1, 10, einstellungen.gBreite);
+        f.ed2 = kernel::RealToStrDot(1, 10, einstellungen.gLaenge);
     }
 }
 

@@ -5,6 +5,7 @@
 #include "numbers/windows.h"
 
 #include "platform/canvas.h"
+#include "platform/toolframe.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -150,15 +151,5 @@ void TOpBox::rechne(const std::string& op)
 void TOpBox::paintEvent(QPaintEvent*)
 {
     platform::Canvas c(this);
-    c.setBrushColor(platform::rgb(236, 240, 248));
-    c.fillRect(0, 0, width(), height());
-    c.setFontName("Verdana");
-    c.setFontSize(14);
-    c.setFontStyle(platform::fsBold);
-    c.setFontColor(platform::rgb(0, 0, 128));
-    c.setBrushStyle(platform::BrushStyle::Clear);
-    c.textOutW(16, 26, QStringLiteral("Fließkommaberechnung"));
-    c.setPenColor(platform::rgb(0, 0, 128));
-    c.moveTo(16, 50);
-    c.lineTo(width() - 16, 50);
+    platform::DrawToolTitle(c, width(), height(), QStringLiteral("Fließkommaberechnung"), 26, platform::rgb(236, 240, 248));
 }

@@ -5,6 +5,7 @@
 #include "numbers/windows.h"
 
 #include "platform/canvas.h"
+#include "platform/toolframe.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -156,17 +157,7 @@ QPushButton* Trechla::button(const QString& caption) const
 void Trechla::paintEvent(QPaintEvent*)
 {
     platform::Canvas c(this);
-    c.setBrushColor(platform::rgb(240, 240, 232));
-    c.fillRect(0, 0, width(), height());
-    c.setFontName("Verdana");
-    c.setFontSize(14);
-    c.setFontStyle(platform::fsBold);
-    c.setFontColor(platform::rgb(0, 0, 128));
-    c.setBrushStyle(platform::BrushStyle::Clear);
-    c.textOutW(16, 26, QStringLiteral("Langarithmetik"));
-    c.setPenColor(platform::rgb(0, 0, 128));
-    c.moveTo(16, 50);
-    c.lineTo(width() - 16, 50);
+    platform::DrawToolTitle(c, width(), height(), QStringLiteral("Langarithmetik"), 26, platform::rgb(240, 240, 232));
 }
 
 void Trechla::zaehle()

@@ -13,12 +13,6 @@
 
 namespace platform {
 
-namespace {
-
-// Per-painter cache of metrics: the page layout measures thousands of pieces a second.
-thread_local std::optional<QFontMetrics> tlMetrics;
-thread_local QFont tlMetricsFont;
-
 // Widths of the 256 bytes of a font, so that measuring a line costs no text shaping:
 // the page layout measures a line again for every word it takes off at a wrap.
 struct ByteAdvances {
@@ -26,6 +20,13 @@ struct ByteAdvances {
     quint32 glyph[256];
     QRawFont raw;
 };
+
+namespace {
+
+// Per-painter cache of metrics: the page layout measures thousands of pieces a second.
+thread_local std::optional<QFontMetrics> tlMetrics;
+thread_local QFont tlMetricsFont;
+
 
 const ByteAdvances& advancesFor(const QFont& f, const std::string& fontName, int pixelSize, int style)
 {
@@ -36,22 +37,15 @@ const ByteAdvances& advancesFor(const QFont& f, const std::string& fontName, int
         return it->second;
     ByteAdvances a;
     const QFontMetricsF fm(f);
-    for (int b = 0; b < 256; ++b) {
-        const unsigned char c = static_cast<unsigned char>(b);
-        const QChar ch = fontName == "Symbol"      ? symbolToUnicode(c)
-                         : fontName == "Wingdings" ? wingdingsToUnicode(c)
-                                                   : fromCp1252(std::string(1, static_cast<char>(c))).at(0);
-        a.w[b] = fm.horizontalAdvance(ch);
-    }
-    // Glyphs of the bytes, so that drawing skips shaping as well.
+    // Glyphs of the bytes too, so that drawing skips shaping as well.
     a.raw = QRawFont::fromFont(f);
     for (int b = 0; b < 256; ++b) {
         const unsigned char c = static_cast<unsigned char>(b);
         const QChar ch = fontName == "Symbol"      ? symbolToUnicode(c)
                          : fontName == "Wingdings" ? wingdingsToUnicode(c)
                                                    : fromCp1252(std::string(1, static_cast<char>(c))).at(0);
-        const char32_t u = ch.unicode();
-        const QList<quint32> g = a.raw.isValid() ? a.raw.glyphIndexesForString(QString(QChar(u))) : QList<quint32>{};
+        a.w[b] = fm.horizontalAdvance(ch);
+        const QList<quint32> g = a.raw.isValid() ? a.raw.glyphIndexesForString(QString(ch)) : QList<quint32>{};
         a.glyph[b] = g.isEmpty() ? 0 : g.front();
     }
     return cache.emplace(key, a).first->second;
@@ -149,6 +143,7 @@ void Canvas::applyFont()
     font_.setHintingPreference(QFont::PreferFullHinting);
     // Without kerning a text is as wide as its characters together, as the layout measures it.
     font_.setKerning(false);
+    advances_ = &advancesFor(font_, fontName_, font_.pixelSize(), fontStyle_);
     fontDirty_ = false;
 }
 
@@ -248,7 +243,7 @@ void Canvas::textOut(int x, int y, const std::string& text)
         textOutW(x, y, toScreen(text));
         return;
     }
-    const ByteAdvances& a = advancesFor(font_, fontName_, font_.pixelSize(), fontStyle_);
+    const ByteAdvances& a = *advances_;
     if (!a.raw.isValid()) {
         textOutW(x, y, toScreen(text));
         return;
@@ -303,7 +298,7 @@ void Canvas::textOutW(int x, int y, const QString& text)
 int Canvas::textWidth(const std::string& text)
 {
     applyFont();
-    const ByteAdvances& a = advancesFor(font_, fontName_, font_.pixelSize(), fontStyle_);
+    const ByteAdvances& a = *advances_;
     double w = 0;
     for (unsigned char c : text)
         w += a.w[c];

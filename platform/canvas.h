@@ -13,6 +13,8 @@
 
 namespace platform {
 
+struct ByteAdvances;  // per-font byte widths and glyphs, kept by canvas.cpp
+
 enum class PenStyle { Solid, Dash, Dot, Clear };
 enum class BrushStyle { Solid, Clear };
 enum FontStyle { fsBold = 1, fsItalic = 2, fsUnderline = 4, fsStrikeOut = 8 };
@@ -98,6 +100,7 @@ private:
     TColor fontColor_ = clBlack;
     bool fontDirty_ = true;
     QFont font_;
+    const ByteAdvances* advances_ = nullptr;  // of font_, set with it
     QPoint pos_;
 };
 

@@ -558,4 +558,19 @@ void SetFontAngle(Canvas& canvas, int tenthsOfDegree)
     canvas.setFontAngle(tenthsOfDegree);
 }
 
+void DrawToolTitle(Canvas& c, int width, int height, const QString& title, int textY, TColor background)
+{
+    c.setBrushColor(background);
+    c.fillRect(0, 0, width, height);
+    c.setBrushStyle(BrushStyle::Clear);
+    c.setFontName("Verdana");
+    c.setFontSize(14);
+    c.setFontStyle(fsBold);
+    c.setFontColor(rgb(0, 0, 128));
+    c.textOutW(16, textY, title);
+    c.setPenColor(rgb(0, 0, 128));
+    c.moveTo(16, 50);
+    c.lineTo(width - 16, 50);
+}
+
 }  // namespace platform

@@ -89,6 +89,9 @@ void ShowMessageNumber(int n, QWidget* parent = nullptr);
 
 // ---- Drawing
 void DrawLine(Canvas& canvas, int x1, int y1, int x2, int y2);
+// The head of a tool window: background, the title in navy bold and a rule under it.
+void DrawToolTitle(Canvas& canvas, int width, int height, const QString& title, int textY,
+                   TColor background);
 // Rotated text for axis labels, in tenths of a degree, counter-clockwise.
 void SetFontAngle(Canvas& canvas, int tenthsOfDegree);
 

@@ -7,6 +7,7 @@
 #include "numbers/tvarint.h"
 
 #include "platform/canvas.h"
+#include "platform/toolframe.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -101,17 +102,7 @@ Tfaktform::~Tfaktform() = default;
 void Tfaktform::paintEvent(QPaintEvent*)
 {
     platform::Canvas c(this);
-    c.setBrushColor(platform::rgb(240, 240, 232));
-    c.fillRect(0, 0, width(), height());
-    c.setBrushStyle(platform::BrushStyle::Clear);
-    c.setFontName("Verdana");
-    c.setFontSize(14);
-    c.setFontStyle(platform::fsBold);
-    c.setFontColor(platform::rgb(0, 0, 128));
-    c.textOutW(16, 18, QStringLiteral("Faktorisierung mit quadratischem Sieb"));
-    c.setPenColor(platform::rgb(0, 0, 128));
-    c.moveTo(16, 50);
-    c.lineTo(width() - 16, 50);
+    platform::DrawToolTitle(c, width(), height(), QStringLiteral("Faktorisierung mit quadratischem Sieb"), 18, platform::rgb(240, 240, 232));
 }
 
 void Tfaktform::E1Change()

@@ -6,6 +6,7 @@
 #include "numbers/mp_types.h"
 
 #include "platform/canvas.h"
+#include "platform/toolframe.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -130,17 +131,7 @@ Tfphase::~Tfphase() = default;
 void Tfphase::paintEvent(QPaintEvent*)
 {
     platform::Canvas c(this);
-    c.setBrushColor(platform::rgb(240, 240, 232));
-    c.fillRect(0, 0, width(), height());
-    c.setBrushStyle(platform::BrushStyle::Clear);
-    c.setFontName("Verdana");
-    c.setFontSize(14);
-    c.setFontStyle(platform::fsBold);
-    c.setFontColor(platform::rgb(0, 0, 128));
-    c.textOutW(16, 18, QStringLiteral("Faktorisieren"));
-    c.setPenColor(platform::rgb(0, 0, 128));
-    c.moveTo(16, 50);
-    c.lineTo(width() - 16, 50);
+    platform::DrawToolTitle(c, width(), height(), QStringLiteral("Faktorisieren"), 18, platform::rgb(240, 240, 232));
 }
 
 void Tfphase::closeEvent(QCloseEvent* e)
