@@ -1,5 +1,8 @@
 #include "crypto/textfiles.h"
 
+#include <QFileDialog>
+#include <QMessageBox>
+
 #include "platform/codepage.h"
 
 #include <QFile>
@@ -35,6 +38,19 @@ bool writeTextFile(const QString& path, const std::string& cp1252)
         return false;
     f.write(crlf.data(), static_cast<qint64>(crlf.size()));
     return f.commit();
+}
+
+bool askAndReadTextFile(QWidget* owner, std::string& text)
+{
+    const QString path =
+        QFileDialog::getOpenFileName(owner, "Text laden", QString(), "Textdatei (*.txt);;Alle Dateien (*)");
+    if (path.isEmpty())
+        return false;
+    bool ok = false;
+    text = readTextFile(path, ok);
+    if (!ok)
+        QMessageBox::warning(owner, "Quorix", "Die Datei konnte nicht gelesen werden.");
+    return ok;
 }
 
 }  // namespace crypto

@@ -254,16 +254,9 @@ void TForm23::undoC()
 
 void TForm23::loadC()
 {
-    const QString path =
-        QFileDialog::getOpenFileName(this, "Text laden", QString(), "Textdatei (*.txt);;Alle Dateien (*)");
-    if (path.isEmpty())
+    std::string text;
+    if (!askAndReadTextFile(this, text))
         return;
-    bool ok = false;
-    const std::string text = readTextFile(path, ok);
-    if (!ok) {
-        QMessageBox::warning(this, "Quorix", "Die Datei konnte nicht gelesen werden.");
-        return;
-    }
     undo_ = snapshot();
     std::string lf;
     for (char ch : text)

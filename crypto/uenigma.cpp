@@ -516,16 +516,9 @@ void Tenigmaf::D3C()
 
 void Tenigmaf::OClC()
 {
-    const QString path =
-        QFileDialog::getOpenFileName(this, "Text laden", QString(), "Textdatei (*.txt);;Alle Dateien (*)");
-    if (path.isEmpty())
+    std::string text;
+    if (!askAndReadTextFile(this, text))
         return;
-    bool ok = false;
-    const std::string text = readTextFile(path, ok);
-    if (!ok) {
-        QMessageBox::warning(this, "Quorix", "Die Datei konnte nicht gelesen werden.");
-        return;
-    }
     Me1_->setPlainText(QString::fromStdString(prepareEnigmaText(text)));
 }
 
