@@ -342,6 +342,115 @@ std::string cotsworth(const Date& c)
     return std::to_string(k % 28 + 1) + ". " + m[k / 28] + " " + std::to_string(c.year);
 }
 
+// Goddess calendar: a lunar calendar counted from the new moon of 16 February 1999 (JD 2451225.5,
+// day 1 of the year 1). Each month begins on the day (UT) of a true new moon of the almanac, so
+// months have 29 or 30 days; a year begins with the lunation nearest to the solar anniversary of
+// the first day, so it holds 12 or 13 months (354 or 355, 383 to 385 days) and keeps to the seasons.
+constexpr double kMeanLunation = 29.530588853;
+constexpr double kLunationsPerYear = 365.24219 / kMeanLunation;
+constexpr long kGoddessEpoch = 2451226;    // day number of 16 February 1999
+constexpr long kGoddessLunation = -11;     // its lunation, counted from the new moon of 6 January 2000
+
+// Day number of the first day of the goddess month k (k = 0 the first month of the year 1).
+long goddessMonthStart(long k)
+{
+    const double jd = jdeToJd(MoonPhaseTime(static_cast<double>(k + kGoddessLunation), 0));
+    return static_cast<long>(std::floor(jd + 0.5));
+}
+long goddessYearFirstMonth(long y) { return static_cast<long>(std::floor(y * kLunationsPerYear + 0.5)); }
+
+}  // namespace
+
+GoddessDate goddessFromDayNumber(long jdn)
+{
+    long k = static_cast<long>(std::floor((jdn - kGoddessEpoch) / kMeanLunation));
+    while (goddessMonthStart(k) > jdn) --k;
+    while (goddessMonthStart(k + 1) <= jdn) ++k;
+    long y = static_cast<long>(std::floor(k / kLunationsPerYear));
+    while (goddessYearFirstMonth(y) > k) --y;
+    while (goddessYearFirstMonth(y + 1) <= k) ++y;
+    GoddessDate g;
+    g.year = y + 1;
+    g.month = static_cast<int>(k - goddessYearFirstMonth(y)) + 1;
+    g.day = static_cast<int>(jdn - goddessMonthStart(k)) + 1;
+    g.yearLength = static_cast<int>(goddessMonthStart(goddessYearFirstMonth(y + 1)) -
+                                    goddessMonthStart(goddessYearFirstMonth(y)));
+    return g;
+}
+
+long goddessDayNumber(long year, int month, int day)
+{
+    return goddessMonthStart(goddessYearFirstMonth(year - 1) + month - 1) + day - 1;
+}
+
+PiDate piFromJd(double jd)
+{
+    // The year of pi * 10^7 seconds, counted from 1 January 287 BC (Julian), 0 h UT, as year 1.
+    const double len = kPiYear;
+    PiDate p;
+    p.year = static_cast<long>(std::floor((jd - kPiEpoch) / len)) + 1;
+    p.yearStart = kPiEpoch + (p.year - 1) * len;
+    p.day = static_cast<long>(std::floor(jd - p.yearStart)) + 1;
+    return p;
+}
+
+SixtyWeekDate sixtyWeekFromCivil(const Date& c)
+{
+    // New Year's day, then three months of 30 days and an extra day (spring, summer, autumn,
+    // winter); the leap day follows the summer day. The extra days stand outside the week.
+    SixtyWeekDate s;
+    s.year = c.year;
+    int k = dayOfYear(c);
+    const bool leap = isLeapCivil(c.year);
+    if (k == 1) {
+        s.extra = "Neujahrstag";
+        return s;
+    }
+    k -= 2;  // 0 = 1 January of the 60-week year
+    static const char* const extras[] = {"Frühlingstag", "Sommertag", "Herbsttag", "Wintertag"};
+    for (int q = 0; q < 4; ++q) {
+        if (k < 90) {
+            s.month = q * 3 + k / 30 + 1;
+            s.day = k % 30 + 1;
+            s.weekday = k % 6;
+            return s;
+        }
+        k -= 90;
+        if (k == 0) {
+            s.extra = extras[q];
+            return s;
+        }
+        --k;
+        if (q == 1 && leap) {
+            if (k == 0) {
+                s.extra = "Schalttag";
+                return s;
+            }
+            --k;
+        }
+    }
+    s.extra = "Wintertag";  // not reached: the year ends with the winter day
+    return s;
+}
+
+namespace {
+
+std::string goddess(long jdn)
+{
+    const GoddessDate g = goddessFromDayNumber(jdn);
+    return std::to_string(g.day) + ". Tag des " + std::to_string(g.month) + ".Monats im Jahr " +
+           std::to_string(g.year) + " (" + std::to_string(g.yearLength) + " Tage)";
+}
+
+std::string sixtyWeek(const Date& c)
+{
+    static const char* const days[] = {"Montag", "Mittwoch", "Donnerstag", "Freitag", "Sonnabend", "Sonntag"};
+    const SixtyWeekDate s = sixtyWeekFromCivil(c);
+    if (!s.extra.empty()) return s.extra + " " + std::to_string(s.year);
+    return std::string(days[s.weekday]) + ", " + std::to_string(s.day) + ". " + monthName(s.month) + " " +
+           std::to_string(s.year);
+}
+
 // John Dee's proposal: Julian months, eight leap years in each cycle of 33 years (the years of the
 // cycle divisible by four), counted from 1 January of the year 1.
 std::string johnDee(long jdn)
@@ -591,15 +700,25 @@ std::vector<std::string> kalenderZeilen(const Date& d, const Resources& res, boo
         out.push_back("Äthiopischer Kalender\t" + coptic(jdn, true));
         out.push_back("Diskordianischer Kalender\t" + discordian(d));
         if (d.year >= 1789) out.push_back("Positivisten-Kalender\t" + positivist(d, res));
+        if (jdn >= 2451226) out.push_back("Göttinnen-Kalender\t" + goddess(jdn));  // from its epoch on
         if (jdn >= 2451255) out.push_back("Solilunar-Kalender\t" + solilunar(jdn));  // from its epoch on
         mars(jdn, out);
         if (d.year >= 1929 && d.year <= 1940) out.push_back("Sowjetischer Revolutionskalender\t" + soviet(d, jdn));
         out.push_back("John Dee-Kalender\t" + johnDee(jdn));
+        out.push_back("60 Wochen-Kalender\t" + sixtyWeek(d));
         out.push_back("Cotsworth-Kalender\t" + cotsworth(d));
         // the rule of the series' writers: 1000 units a year, counted from 2323
         const int doy = dayOfYear(d);
         const double len = isLeapCivil(d.year) ? 366 : 365;
         out.push_back("Star Trek Sternzeit\t" + fmt("%.2f", (d.year - 2323) * 1000.0 + (doy - 1) / len * 1000.0));
+        {
+            const PiDate p = piFromJd(jdn);  // the noon of the day decides its pi year
+            out.push_back("PI-Kalender\t" + std::to_string(p.day) + ". Tag des Jahres " + std::to_string(p.year) +
+                          " n.Arc.");
+            const double newYear = p.yearStart + kPiYear;
+            out.push_back("\tPI-Silvester " + dateTimeText(newYear - kPiSilvester, zone) + " bis " +
+                          dateTimeText(newYear, zone));
+        }
         // the day of the programmer is the 256th day of the year
         char hex[16];
         std::snprintf(hex, sizeof hex, "0x%03X", doy);

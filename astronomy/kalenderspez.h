@@ -67,6 +67,34 @@ ChineseDate chineseFromDayNumber(long jdn);
 // Coptic and Ethiopian
 Date copticFromDayNumber(long jdn, bool ethiopian);
 
+// Goddess calendar: lunar months from the new moon of 16 February 1999, 12 or 13 in a year.
+struct GoddessDate {
+    long year = 0;
+    int month = 0, day = 0, yearLength = 0;
+};
+GoddessDate goddessFromDayNumber(long jdn);
+long goddessDayNumber(long year, int month, int day);
+
+// The year of pi * 10^7 seconds (363.61 days) from 1 January 287 BC (Julian) 0 h UT; the new
+// year's eve celebration starts 31 h 41 min 59 s before the new year.
+constexpr double kPiYear = 31415926.535897932 / 86400;
+constexpr double kPiEpoch = 1616596.5;
+constexpr double kPiSilvester = (31 * 3600 + 41 * 60 + 59) / 86400.0;
+struct PiDate {
+    long year = 0;
+    long day = 0;            // day of the pi year, from 1
+    double yearStart = 0;    // JD (UT) of the year's beginning
+};
+PiDate piFromJd(double jd);
+
+// 60-week calendar: twelve months of 30 days in weeks of six days and extra days outside the week.
+struct SixtyWeekDate {
+    int year = 0, month = 0, day = 0;
+    int weekday = 0;         // 0 Montag, 1 Mittwoch .. 5 Sonntag (no Tuesday)
+    std::string extra;       // "Neujahrstag", "Frühlingstag", ... for a day outside the months
+};
+SixtyWeekDate sixtyWeekFromCivil(const Date& c);
+
 // Lines of the calendar tool for one date; with `zusaetzlich` the long list of further calendars.
 std::vector<std::string> kalenderZeilen(const Date& d, const Resources& res, bool zusaetzlich, double zone = 1.0,
                                         const std::string& ort = "Neuhafen", double breite = 50.8088888888889,

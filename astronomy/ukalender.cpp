@@ -49,6 +49,7 @@ void fuelle(QTreeWidget* list, const std::vector<std::string>& lines)
         auto* item = new QTreeWidgetItem(list);
         item->setText(0, tab < 0 ? line : line.left(tab));
         item->setText(1, tab < 0 ? QString() : line.mid(tab + 1).replace('\t', "   "));
+        item->setToolTip(1, item->text(1));  // long lines stay readable
     }
 }
 }  // namespace
@@ -165,7 +166,10 @@ TFkalend::TFkalend(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(pare
     LB1_->setColumnCount(2);
     LB1_->setHeaderLabels({"Kalender", "Datum"});
     LB1_->setRootIsDecorated(false);
-    LB1_->header()->resizeSection(0, 225);
+    LB1_->header()->resizeSection(0, 215);
+    // the date column grows with its longest line and the list scrolls sideways instead of eliding
+    LB1_->header()->setStretchLastSection(false);
+    LB1_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     h->addWidget(LB1_, 1);
     tabs_->addTab(seite1, "Kalender");
 

@@ -7,7 +7,9 @@
 
 #include <cmath>
 #include <fstream>
+#include <algorithm>
 #include <map>
+#include <set>
 #include <sstream>
 #include <string>
 
@@ -178,4 +180,83 @@ TEST(Calendar, SolilunarYearsBeginAtNewMoonNearTheEquinox)
         const double nm = astro::MoonPhaseTime(std::round(astro::lunationIndex(jd + 0.5)), 0);
         EXPECT_LT(std::fabs(jd + 0.5 - nm), 1.5) << "year " << y << ": starts " << jd << ", new moon " << nm;
     }
+}
+
+TEST(Calendar, GoddessMonthsFollowTheMoonAndYearsTheSeasons)
+{
+    // The new moons of 2024 (UT dates of the published phase tables): each begins a month.
+    const int newMoons[][2] = {{11, 1}, {9, 2}, {10, 3}, {8, 4}, {8, 5}, {6, 6}, {5, 7},
+                               {4, 8}, {3, 9}, {2, 10}, {1, 11}, {1, 12}, {30, 12}};
+    for (const auto& nm : newMoons) {
+        const GoddessDate g = goddessFromDayNumber(dayNumber({2024, nm[1], nm[0]}));
+        EXPECT_EQ(g.day, 1) << nm[0] << "." << nm[1] << ".2024 is day " << g.day;
+        const GoddessDate before = goddessFromDayNumber(dayNumber({2024, nm[1], nm[0]}) - 1);
+        EXPECT_TRUE(before.day == 29 || before.day == 30) << "month before " << nm[0] << "." << nm[1];
+    }
+    // Years have 12 or 13 months and begin within 20 days of the anniversary of 16 February.
+    std::set<int> lengths;
+    for (long y = 1; y <= 150; ++y) {
+        const long first = goddessDayNumber(y, 1, 1);
+        const Date civil = civilFromDayNumber(first);
+        const long anniversary = dayNumber({civil.year, 2, 16});
+        EXPECT_LE(std::labs(first - anniversary), 20) << "year " << y << " begins " << civil.day << "." << civil.month;
+        const GoddessDate g = goddessFromDayNumber(first);
+        EXPECT_EQ(g.year, y);
+        EXPECT_EQ(g.month, 1);
+        lengths.insert(g.yearLength);
+        EXPECT_EQ(goddessDayNumber(y + 1, 1, 1) - first, g.yearLength) << "year " << y;
+    }
+    for (int n : lengths) EXPECT_TRUE((n >= 354 && n <= 355) || (n >= 383 && n <= 385)) << n;
+    EXPECT_EQ(goddessDayNumber(1, 1, 1), dayNumber({1999, 2, 16}));  // the epoch is day 1
+    for (long j = 2451226; j < 2451226 + 4000; j += 7) {
+        const GoddessDate g = goddessFromDayNumber(j);
+        EXPECT_EQ(goddessDayNumber(g.year, g.month, g.day), j);
+        EXPECT_LE(g.day, 30);
+    }
+}
+
+TEST(Calendar, PiYearOfThePublishedExample)
+{
+    // The pi year has pi * 10^7 s; its year 2299 began on 20 September 2001 at 9:06:19 UT and its
+    // new year's eve 31 h 41 min 59 s earlier (figures of the calendar's author).
+    const double newYear = astro::JulianDay(2001, 9, 20) + (9 + 6 / 60.0 + 19 / 3600.0) / 24;
+    const PiDate p = piFromJd(dayNumber({2001, 9, 20}));
+    EXPECT_EQ(p.year, 2299);
+    EXPECT_EQ(p.day, 1);
+    EXPECT_NEAR(p.yearStart, newYear, 1.0 / 86400);
+    const PiDate before = piFromJd(dayNumber({2001, 9, 19}));
+    EXPECT_EQ(before.year, 2298);
+    EXPECT_EQ(before.day, 363);
+    const auto lines = kalenderZeilen({2001, 9, 19}, {}, true, 0.0);
+    const std::string want = "\tPI-Silvester 19.09.2001 01:24 bis 20.09.2001 09:06";
+    EXPECT_NE(std::find(lines.begin(), lines.end(), want), lines.end()) << want;
+}
+
+TEST(Calendar, SixtyWeekYearHasSixtyWeeksAndTheExtraDays)
+{
+    for (int year : {2023, 2024}) {
+        const bool leap = isLeapCivil(year);
+        std::set<std::string> seen;
+        std::vector<std::string> extras;
+        int weeks = 0;
+        for (long j = dayNumber({year, 1, 1}); j <= dayNumber({year, 12, 31}); ++j) {
+            const SixtyWeekDate s = sixtyWeekFromCivil(civilFromDayNumber(j));
+            if (!s.extra.empty()) {
+                extras.push_back(s.extra);
+                continue;
+            }
+            EXPECT_EQ(s.weekday, (s.day - 1) % 6) << "every month begins on a Monday";
+            if (s.weekday == 0) ++weeks;
+            EXPECT_TRUE(seen.insert(std::to_string(s.month) + "/" + std::to_string(s.day)).second);
+        }
+        EXPECT_EQ(seen.size(), 360u);
+        EXPECT_EQ(weeks, 60);
+        std::vector<std::string> want = {"Neujahrstag", "Frühlingstag", "Sommertag", "Herbsttag", "Wintertag"};
+        if (leap) want.insert(want.begin() + 3, "Schalttag");
+        EXPECT_EQ(extras, want) << year;
+    }
+    // 1 January is New Year's day, so the 60-week months lag a day behind the civil ones
+    const SixtyWeekDate d = sixtyWeekFromCivil({2026, 11, 23});
+    EXPECT_EQ(d.month, 11);
+    EXPECT_EQ(d.day, 23);
 }
