@@ -41,6 +41,7 @@
 #include <QUrl>
 #include <algorithm>
 #include <iostream>
+#include <memory>
 
 namespace app {
 
@@ -1172,13 +1173,18 @@ std::vector<std::string> TForm1::volltextSuchen(const std::string& w1, const std
     a.wort1 = w1;
     a.wort2 = w2;
     a.bloecke = store_.letzterBlock();
-    const std::string container = lexicon::lexikonpfad + "tlexikon.dll";
-    a.blockText = [container](int b) {
-        return platform::zlibInflate(platform::readResource(container, "10", "t" + std::to_string(b)));
-    };
+    std::vector<std::string> treffer;
+    std::unique_ptr<platform::ContainerReader> leser;  // one opening for all blocks
+    try {
+        leser = std::make_unique<platform::ContainerReader>(lexicon::lexikonpfad + "tlexikon.dll");
+    } catch (const std::exception& e) {
+        myexceptionhandler(e.what());
+        zeitaufwaendig_ = false;
+        return treffer;
+    }
+    a.blockText = [&leser](int b) { return platform::zlibInflate(leser->read("10", "t" + std::to_string(b))); };
     a.laeuft = [this]() { return zeitaufwaendig_; };
     a.fortschritt = fortschritt;
-    std::vector<std::string> treffer;
     try {
         treffer = lexicon::volltextSuche(a);
     } catch (const std::exception& e) {

@@ -20,19 +20,27 @@ std::string entryName(const std::string& type, const std::string& name)
 
 }  // namespace
 
-std::string readResource(const std::string& containerPath, const std::string& type,
-                         const std::string& name)
+ContainerReader::ContainerReader(const std::string& containerPath)
 {
     int err = 0;
-    std::unique_ptr<zip_t, ZipCloser> z(zip_open(containerPath.c_str(), ZIP_RDONLY, &err));
-    if (!z)
+    zip_ = zip_open(containerPath.c_str(), ZIP_RDONLY, &err);
+    if (!zip_)
         throw ResourceError("Ressourcendatei nicht gefunden: " + containerPath);
+}
+
+ContainerReader::~ContainerReader()
+{
+    zip_discard(zip_);
+}
+
+std::string ContainerReader::read(const std::string& type, const std::string& name) const
+{
     const std::string entry = entryName(type, name);
     zip_stat_t st;
     zip_stat_init(&st);
-    if (zip_stat(z.get(), entry.c_str(), ZIP_FL_NOCASE, &st) != 0)
+    if (zip_stat(zip_, entry.c_str(), ZIP_FL_NOCASE, &st) != 0)
         throw ResourceError("Ressource nicht gefunden: " + name);
-    zip_file_t* f = zip_fopen_index(z.get(), st.index, 0);
+    zip_file_t* f = zip_fopen_index(zip_, st.index, 0);
     if (!f)
         throw ResourceError("Ressource nicht lesbar: " + name);
     std::string data(st.size, '\0');
@@ -41,6 +49,12 @@ std::string readResource(const std::string& containerPath, const std::string& ty
     if (got < 0 || static_cast<zip_uint64_t>(got) != st.size)
         throw ResourceError("Ressource nicht lesbar: " + name);
     return data;
+}
+
+std::string readResource(const std::string& containerPath, const std::string& type,
+                         const std::string& name)
+{
+    return ContainerReader(containerPath).read(type, name);
 }
 
 bool hasResource(const std::string& containerPath, const std::string& type, const std::string& name)

@@ -7,6 +7,8 @@
 #include <vector>
 #include <string>
 
+struct zip;  // libzip's archive handle
+
 namespace platform {
 
 // Raw bytes of one resource; throws ResourceError if the container or resource is missing.
@@ -15,6 +17,19 @@ std::string readResource(const std::string& containerPath, const std::string& ty
 bool hasResource(const std::string& containerPath, const std::string& type, const std::string& name);
 // Names of all resources of one type, in the container's order.
 std::vector<std::string> listResources(const std::string& containerPath, const std::string& type);
+// Several reads from one container with one opening, for walks over many resources (search).
+class ContainerReader {
+public:
+    explicit ContainerReader(const std::string& containerPath);  // throws ResourceError
+    ~ContainerReader();
+    ContainerReader(const ContainerReader&) = delete;
+    ContainerReader& operator=(const ContainerReader&) = delete;
+    std::string read(const std::string& type, const std::string& name) const;
+
+private:
+    ::zip* zip_ = nullptr;
+};
+
 // The one loader of text resources: fetch, inflate, split into lines.
 StringList loadTextResource(const std::string& containerPath, const std::string& type,
                             const std::string& name);

@@ -22,9 +22,9 @@ std::string zlibCompress(const std::string& data)
 
 std::string zlibInflate(const std::string& data)
 {
-    const size_t step = ((data.size() + 255) / 256) * 256 + 256;
+    // Text packs about four to one; grow by doubling so a large list is not copied many times.
     std::string out;
-    out.resize(step);
+    out.resize(data.size() * 4 + 256);
     z_stream zs{};
     if (inflateInit(&zs) != Z_OK)
         throw ResourceError("Dekomprimierung fehlgeschlagen");
@@ -42,7 +42,7 @@ std::string zlibInflate(const std::string& data)
             throw ResourceError("Fehlerhafte komprimierte Daten");
         }
         if (zs.avail_out == 0) {
-            out.resize(out.size() + step);
+            out.resize(out.size() * 2);
         } else if (zs.avail_in == 0) {
             inflateEnd(&zs);
             throw ResourceError("Unvollständige komprimierte Daten");
