@@ -109,9 +109,12 @@ int cmdPlanet(Args a, std::ostream& out, std::ostream& err)
     double jd;
     if (a.size() != 2 || !toNumber(a[1], jd))
         return usage(err, "Aufruf: quorix planet NAME JD [--lat L --lon L --zone H]");
-    if (!astro::isPlanetKey(a[0]) || a[0] == "Pluto")
-        return usage(err, "Unbekannter Planet: " + a[0] + " (Merkur, Venus, Erde, Mars, Jupiter, Saturn, Uranus, Neptun)");
-    const astro::PlanetRecord p = astro::PlanetPosition(a[0], jd, lat, lon, zone);
+    if (!astro::isPlanetKey(a[0]))
+        return usage(err, "Unbekannter Planet: " + a[0] +
+                              " (Merkur, Venus, Erde, Mars, Jupiter, Saturn, Uranus, Neptun, Pluto)");
+    // Pluto has only the simple routine, without perturbations
+    const astro::PlanetRecord p =
+        a[0] == "Pluto" ? astro::PlanetSimple(a[0], jd) : astro::PlanetPosition(a[0], jd, lat, lon, zone);
     const auto& names = astro::planetRecordNames();
     const auto values = astro::planetRecordValues(p);
     for (std::size_t i = 0; i < names.size(); ++i) out << names[i] << "\t" << num(values[i]) << "\n";

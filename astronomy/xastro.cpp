@@ -39,9 +39,9 @@ const std::map<std::string, Elem>& elementTable()
                     428.37768, 70.04}},
         {"Neptun", {30.110387, 0.008988, 6e-06, 1.77, -0.0093, 131.784, 1.102, 48.1237, 1.4263, 256.225, 0, 218.45704,
                     67}},
-        // approximate mean elements of J2000 for the simple routine
+        // approximate mean elements of J2000 for the simple routine; 2377 km seen from 1 AU are 3.28"
         {"Pluto", {39.48211675, 0.2488273, 0, 17.14001206, 0, 110.30393684, 0, 224.06891629, 0, 14.86012204, 0,
-                   145.20780515, 0.1}},
+                   145.20780515, 3.28}},
     };
     return t;
 }

@@ -86,3 +86,21 @@ TEST(Commands, Calendar)
     EXPECT_EQ(run("calendar", {"10.10.1582"}).code, 2);
     EXPECT_EQ(run("calendar", {"2000-01-01"}).code, 2);
 }
+
+TEST(Commands, PlutoByTheSimpleRoutine)
+{
+    // Meeus, Astronomical Algorithms, example 37.a (1992 Oct 13.0 TD): Delta = 30.528 AU,
+    // alpha = 15h 31m 43.8s, delta = -4 deg 27' 29"; mean elements hold to a few arc minutes.
+    const Result r = run("planet", {"Pluto", "2448908.5"});
+    ASSERT_EQ(r.code, 0) << r.err;
+    auto value = [&](const std::string& name) {
+        const auto p = r.out.find(name + "\t");
+        EXPECT_NE(p, std::string::npos) << name;
+        return p == std::string::npos ? 0.0 : std::stod(r.out.substr(p + name.size() + 1));
+    };
+    EXPECT_NEAR(value("Entfernung"), 30.528, 0.01);
+    EXPECT_NEAR(value("Rektaszension h") * 60 + value("Rektaszension min"), 15 * 60 + 31 + 43.8 / 60, 0.5);
+    EXPECT_NEAR(value("Deklination Grad") * 60 + value("Deklination min"), -(4 * 60 + 27 + 29 / 60.0), 3);
+    EXPECT_NEAR(value("Durchmesser"), 0.107, 0.005);  // Pluto's 2377 km at 30.5 AU
+    EXPECT_EQ(run("planet", {"Vulkan", "2448908.5"}).code, 2);
+}
