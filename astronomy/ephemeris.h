@@ -274,6 +274,8 @@ private:
     double ta_ = 0, tb_ = 0, deltaT_ = 0;
     std::vector<double> sun_[3], moon_[3], f1_, f2_;
 };
+// The same for the span of fits already made for the date (9 hours either side will do).
+LocalEclipse solarEclipseAtObserver(const EclipseFits& fits, double latitude, double longitude);
 
 // Central line of a solar eclipse: where the axis of the Moon's shadow meets the Earth at jd (UT).
 CentralPoint centralLinePoint(double jd);

@@ -195,11 +195,15 @@ CentralPoint EclipseFits::centralPoint(double T) const
 
 LocalEclipse solarEclipseAtObserver(double jdNewMoon, double lat, double lon)
 {
-    const EclipseFits fits(jdNewMoon, 0.5);
+    return solarEclipseAtObserver(EclipseFits(jdNewMoon, 0.375), lat, lon);
+}
+
+LocalEclipse solarEclipseAtObserver(const EclipseFits& fits, double lat, double lon)
+{
     LocalEclipse e;
-    // step over the window in triples t - h, t, t + h; the squared distances are nearly parabolas
+    // step over the span in triples t - h, t, t + h; the squared distances are nearly parabolas
     const double h = kStep;
-    const double ta = fits.toT(jdNewMoon - 0.375), tb = fits.toT(jdNewMoon + 0.375);
+    const double ta = fits.ta(), tb = fits.tb();
     auto g = [&](double T, double r2[3]) {
         const EclipseFits::Shadow s = fits.atObserver(T, lat, lon);
         r2[0] = s.m * s.m - s.penumbra * s.penumbra;
