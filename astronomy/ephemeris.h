@@ -86,6 +86,12 @@ Elements ElementFromTwoPositions(double ta, const double ra[3], double tb, const
 // unknown key.
 bool SeriesPlanet(const std::string& key, double T, double& l, double& b, double& r);
 
+// Moon of the series library: geocentric ecliptic longitude and latitude (degrees, mean equinox of
+// date) and distance in Earth radii (times kEarthRadiusKm for km), T in Julian centuries from J2000
+// (TT). About 1" in the coordinates near the present; false only for a T that is not finite.
+bool SeriesMoon(double T, double& l, double& b, double& rEarthRadii);
+inline constexpr double kEarthRadiusKm = 6378.14;
+
 // ---------------------------------------------------------------- observer planets (xastro)
 
 struct PlanetRecord {
@@ -218,6 +224,11 @@ RiseTransitSet riseTransitSet(double theta0, const double ra[3], const double de
 // Central meridians of Jupiter (systems I and II), low-accuracy form, in degrees.
 void JupiterCentralMeridian(double jd, double& omega1, double& omega2);
 
+struct CentralPoint {
+    bool onEarth = false;
+    double latitude = 0, longitude = 0;  // degrees, longitude east-positive
+};
+
 // Solar eclipse as seen by an observer near the new moon jd (UT): code 0 not to be seen,
 // 1 partial, 2 annular, 3 total; contacts 1..4 where they exist; the lines of the tool.
 struct LocalEclipse {
@@ -231,11 +242,42 @@ struct LocalEclipse {
 };
 LocalEclipse solarEclipseAtObserver(double jdNewMoon, double latitude, double longitude);
 
-// Central line of a solar eclipse: where the axis of the Moon's shadow meets the Earth at jd (UT).
-struct CentralPoint {
-    bool onEarth = false;
-    double latitude = 0, longitude = 0;  // degrees, longitude east-positive
+// Sun and Moon of the series library fitted once for a chosen date as Chebyshev polynomials in T
+// (centuries, TT) over a span of days; the eclipse routines then evaluate only the fits. The fits
+// hold for that date alone: a new date takes a new object.
+class EclipseFits {
+public:
+    explicit EclipseFits(double jd, double halfSpanDays = 0.5);  // jd in UT
+    double ta() const { return ta_; }  // span in T
+    double tb() const { return tb_; }
+    double deltaT() const { return deltaT_; }  // TT - UT in days
+    double toT(double jd) const { return (jd + deltaT_ - 2451545.0) / 36525; }
+    double toJd(double T) const { return T * 36525 + 2451545.0 - deltaT_; }
+    bool covers(double jd) const;
+    // geocentric equatorial vectors of date in Earth radii (the Sun with aberration)
+    void positions(double T, double sun[3], double moon[3]) const;
+    // tangents of the half angles of the penumbral (f1) and umbral (f2) cones
+    double tanF1(double T) const;
+    double tanF2(double T) const;
+
+    // The observer in the shadow's frame: distance m from the axis, and the radii of the penumbra
+    // and the umbra (negative beyond the umbra's tip) at his distance behind the Moon, all in Earth
+    // radii; sunAltitude in degrees.
+    struct Shadow {
+        double m = 0, penumbra = 0, umbra = 0, sunAltitude = 0;
+    };
+    Shadow atObserver(double T, double latitude, double longitude) const;
+    // Where the shadow's axis meets the Earth.
+    CentralPoint centralPoint(double T) const;
+
+private:
+    double ta_ = 0, tb_ = 0, deltaT_ = 0;
+    std::vector<double> sun_[3], moon_[3], f1_, f2_;
 };
+// The same for the span of fits already made for the date (9 hours either side will do).
+LocalEclipse solarEclipseAtObserver(const EclipseFits& fits, double latitude, double longitude);
+
+// Central line of a solar eclipse: where the axis of the Moon's shadow meets the Earth at jd (UT).
 CentralPoint centralLinePoint(double jd);
 // The line over the eclipse's span around a new moon, in steps of `minutes`: "hh:mm UT\tBreite\tLänge".
 std::vector<std::string> centralLine(double jdNewMoon, double minutes = 10);

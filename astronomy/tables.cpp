@@ -13,6 +13,11 @@ const MoonRow moonTerms[] = {
 };
 const std::size_t moonTermCount = sizeof moonTerms / sizeof moonTerms[0];
 
+const MoonSeriesRow moonSeries[] = {
+#include "astronomy/tables/moon_series_mp.inc"
+};
+const std::size_t moonSeriesCount = sizeof moonSeries / sizeof moonSeries[0];
+
 const NutationRow nutationTerms[] = {
 #include "astronomy/tables/nutation_meeus22.inc"
 };

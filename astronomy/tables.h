@@ -13,6 +13,10 @@ struct MoonRow {
     int d, m, mp, f;
     double sine, cosine;
 };
+struct MoonSeriesRow {
+    char kind;           // 'A' mean argument, 'L' long-period, 'G' inclination, 'S' solar, 'N' latitude, 'P' planetary
+    double v[8];         // the numbers of the data line in order
+};
 struct NutationRow {
     int d, m, mp, f, om;
     double a, b, c, dd;
@@ -22,6 +26,8 @@ extern const VsopRow vsopEarth[];
 extern const std::size_t vsopEarthCount;
 extern const MoonRow moonTerms[];
 extern const std::size_t moonTermCount;
+extern const MoonSeriesRow moonSeries[];
+extern const std::size_t moonSeriesCount;
 extern const NutationRow nutationTerms[];
 extern const std::size_t nutationTermCount;
 

@@ -89,3 +89,33 @@ TEST(Tables, PlanetSeriesDataFileIsComplete)
     EXPECT_EQ(terms, 506);
     EXPECT_EQ(anomalies, 39);
 }
+
+TEST(Tables, MoonSeriesMatchesDataFile)
+{
+    // every line of the lunar series, in order: kind and numbers (the mean arguments without
+    // their names L0, l, ls, F, D)
+    const auto r = rows("moon_series_mp.txt");
+    ASSERT_EQ(r.size(), moonSeriesCount);
+    const char* names[] = {"L0", "l", "ls", "F", "D"};
+    int counts[128] = {};
+    for (std::size_t i = 0; i < r.size(); ++i) {
+        const auto& f = r[i];
+        ASSERT_EQ(f[0].size(), 1u);
+        EXPECT_EQ(f[0][0], moonSeries[i].kind) << "row " << i;
+        std::size_t first = 1;
+        if (f[0] == "A") {
+            ASSERT_LT(counts['A'], 5);
+            EXPECT_EQ(f[1], names[counts['A']]);
+            first = 2;
+        }
+        ++counts[static_cast<unsigned char>(f[0][0])];
+        for (std::size_t k = first; k < f.size(); ++k)
+            EXPECT_EQ(std::stod(f[k]), moonSeries[i].v[k - first]) << "row " << i << " column " << k;
+    }
+    EXPECT_EQ(counts['A'], 5);
+    EXPECT_EQ(counts['L'], 7);
+    EXPECT_EQ(counts['G'], 3);
+    EXPECT_EQ(counts['S'], 104);
+    EXPECT_EQ(counts['N'], 10);
+    EXPECT_EQ(counts['P'], 11);
+}
