@@ -152,6 +152,25 @@ int cmdEclipses(Args a, std::ostream& out, std::ostream& err)
     return list.empty() ? 1 : 0;
 }
 
+bool parseDate(const std::string& s, astro::kal::Date& d);
+
+// The solar eclipse of the new moon nearest to a date, as seen from a place.
+int cmdLocalEclipse(Args a, std::ostream& out, std::ostream& err)
+{
+    double lat = 50.8088888888889, lon = 12.9033333333333;
+    std::string v;
+    if (quorix::takeOption(a, "--lat", v) && !toNumber(v, lat)) return usage(err, "Ungültige Breite: " + v);
+    if (quorix::takeOption(a, "--lon", v) && !toNumber(v, lon)) return usage(err, "Ungültige Länge: " + v);
+    astro::kal::Date d;
+    if (a.size() != 1 || !parseDate(a[0], d))
+        return usage(err, "Aufruf: quorix localeclipse TAG.MONAT.JAHR [--lat L --lon L]");
+    const double jd = astro::JulianDay(d.year, d.month, d.day);
+    const double nm = astro::jdeToJd(astro::MoonPhaseTime(std::round(astro::lunationIndex(jd)), 0));
+    const astro::LocalEclipse e = astro::solarEclipseAtObserver(nm, lat, lon);
+    for (const std::string& line : e.lines) out << line << "\n";
+    return e.code == 0 ? 1 : 0;
+}
+
 bool parseDate(const std::string& s, astro::kal::Date& d)
 {
     int n = 0;
@@ -190,6 +209,8 @@ std::vector<quorix::HeadlessCommand> astronomyCommands()
         {"planet", "planet NAME JD [--lat L --lon L --zone H]: Planetendaten", cmdPlanet},
         {"moonphases", "moonphases JAHR: alle Mondphasen eines Jahres", cmdMoonphases},
         {"eclipses", "eclipses JAHR: Sonnen- und Mondfinsternisse eines Jahres", cmdEclipses},
+        {"localeclipse", "localeclipse TAG.MONAT.JAHR [--lat L --lon L]: Sonnenfinsternis am Beobachtungsort",
+         cmdLocalEclipse},
         {"calendar", "calendar TAG.MONAT.JAHR [--kurz]: das Datum in allen Kalendern", cmdCalendar},
         {"easter", "easter JAHR: Ostersonntag", cmdEaster},
     };

@@ -104,3 +104,16 @@ TEST(Commands, PlutoByTheSimpleRoutine)
     EXPECT_NEAR(value("Durchmesser"), 0.107, 0.005);  // Pluto's 2377 km at 30.5 AU
     EXPECT_EQ(run("planet", {"Vulkan", "2448908.5"}).code, 2);
 }
+
+TEST(Commands, LocalEclipseOfTheNearestNewMoon)
+{
+    // 11 August 1999 in southern Bavaria lay on the central line (totality about 2 min 20 s).
+    const Result total = run("localeclipse", {"10.8.1999", "--lat", "48.149", "--lon", "12.5"});
+    EXPECT_EQ(total.code, 0) << total.err;
+    EXPECT_EQ(total.out.rfind("Totale Finsternis mit M=", 0), 0u) << total.out;
+    EXPECT_TRUE(hasLine(total.out, "Maximum um 10:39:47 UT")) << total.out;
+    const Result none = run("localeclipse", {"1.1.2020"});  // no eclipse at that new moon
+    EXPECT_EQ(none.code, 1);
+    EXPECT_EQ(none.out, "Am Beobachtungsort nicht zu sehen\n");
+    EXPECT_EQ(run("localeclipse", {"31.2.2020"}).code, 2);
+}
