@@ -37,6 +37,13 @@ bool bildSpeichern(QDialog* d)
     return ok;
 }
 
+// A window that opens at the page and item the catalogue chose: the values stand in the
+// globals while the tool starts.
+std::function<QDialog*(QWidget*)> mitSeite(QDialog* (*fabrik)(QWidget*, int, int))
+{
+    return [fabrik](QWidget* p) { return fabrik(p, lexicon::wahlseite, lexicon::wahlpunkt); };
+}
+
 }  // namespace
 
 const std::vector<WerkzeugEintrag>& werkzeugtabelle()
@@ -47,12 +54,12 @@ const std::vector<WerkzeugEintrag>& werkzeugtabelle()
         std::vector<WerkzeugEintrag> t = {
             {2, A::A, "TFInter", {}},       {3, A::A, "TFAnalysis", {}},   {4, A::C, "TFGraph", graphs::createTFGraph},
             {5, A::A, "TFabbild", {}},      {6, A::A, "TFchaos", {}},      {7, A::B, "TFnumer", {}},
-            {8, A::A, "TFalgebra", {}},     {9, A::A, "TFkalend", ::createTFkalend},     {10, A::A, "Tf2048", {}},
+            {8, A::A, "TFalgebra", {}},     {9, A::A, "TFkalend", mitSeite(::createTFkalend)},     {10, A::A, "Tf2048", {}},
             {11, A::A, "TFpoly", {}},       {12, A::A, "TFintegra", {}},   {13, A::A, "TForm13", {}},
             {14, A::A, "TForm14", {}},      {15, A::A, "TFphy", {}},       {16, A::A, "TForm16", {}},
             {17, A::A, "TForm17", {}},      {18, A::A, "Ttranskoord", {}}, {19, A::B, "Tfphase", ::createTfphase},
             {20, A::A, "TForm20", {}},      {21, A::A, "TForm21", {}},     {22, A::A, "TForm22", {}},
-            {23, A::A, "TForm23", crypto::createTForm23},      {24, A::A, "TForm24", {}},     {25, A::A, "TxDreieck", {}},
+            {23, A::A, "TForm23", mitSeite(crypto::createTForm23)},      {24, A::A, "TForm24", {}},     {25, A::A, "TxDreieck", {}},
             {26, A::A, "TFourier1", {}},    {27, A::A, "Troform", {}},     {28, A::B, "Tfaktform", ::createTfaktform},
             {29, A::A, "TcForm11", {}},     {30, A::A, "TForm30", {}},     {31, A::A, "TFchem", {}},
             {32, A::A, "TpForm10", {}},     {33, A::A, "Tzahlz", {}},      {34, A::A, "TaForm37", {}},
@@ -67,7 +74,7 @@ const std::vector<WerkzeugEintrag>& werkzeugtabelle()
             {59, A::A, "Tf11dual", {}},     {60, A::A, "TFimpkurv", {}},   {61, A::A, "Tphy3", {}},
             {62, A::B, "Taform1", {}},      {63, A::A, "Tfkarten", {}},    {64, A::A, "Tfspann", {}},
             {65, A::A, "TFbrute", {}},      {66, A::A, "TpForm8", {}},     {67, A::A, "Tphyf2", {}},
-            {68, A::A, "TQuiz1", {}},       {69, A::A, "Tfsortier", {}},   {70, A::A, "Tenigmaf", crypto::createTenigmaf},
+            {68, A::A, "TQuiz1", {}},       {69, A::A, "Tfsortier", {}},   {70, A::A, "Tenigmaf", mitSeite(crypto::createTenigmaf)},
             {71, A::E, "quorixo.exe", {}},  {72, A::A, "Tphraum", {}},     {73, A::A, "TForm31h", {}},
             {74, A::B, "Tfvierfarbe", {}},  {75, A::A, "Tgfilter", {}},    {76, A::A, "Tfsokoban", {}},
             {77, A::A, "Ttspform", {}},     {78, A::A, "Tf11bezier", {}},  {79, A::B, "Tfnform", {}},

@@ -277,5 +277,8 @@ QStringList TFkalend::zeilen() const
     return out;
 }
 
-QDialog* createTFkalend(QWidget* parent) { return new TFkalend(parent); }
+QDialog* createTFkalend(QWidget* parent, int wahlseite, int wahlpunkt)
+{
+    return new TFkalend(parent, wahlseite, wahlpunkt);
+}
 

@@ -3,4 +3,4 @@
 class QDialog;
 class QWidget;
 
-QDialog* createTFkalend(QWidget* parent);  // tool 9: calendars
+QDialog* createTFkalend(QWidget* parent, int wahlseite = -1, int wahlpunkt = -1);  // tool 9: calendars

@@ -277,6 +277,9 @@ void TForm23::saveC()
         QMessageBox::warning(this, "Quorix", "Die Datei konnte nicht geschrieben werden.");
 }
 
-QDialog* createTForm23(QWidget* parent) { return new TForm23(parent); }
+QDialog* createTForm23(QWidget* parent, int wahlseite, int wahlpunkt)
+{
+    return new TForm23(parent, wahlseite, wahlpunkt);
+}
 
 }  // namespace crypto

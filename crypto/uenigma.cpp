@@ -543,6 +543,9 @@ void Tenigmaf::UClC()
 
 namespace crypto {
 
-QDialog* createTenigmaf(QWidget* parent) { return new Tenigmaf(parent); }
+QDialog* createTenigmaf(QWidget* parent, int wahlseite, int wahlpunkt)
+{
+    return new Tenigmaf(parent, wahlseite, wahlpunkt);
+}
 
 }  // namespace crypto

@@ -5,7 +5,8 @@ class QWidget;
 
 namespace crypto {
 
-QDialog* createTForm23(QWidget* parent);   // tool 23, the cipher page "Kryptografie"
-QDialog* createTenigmaf(QWidget* parent);  // tool 70, "Enigma"
+// The catalogue opens a window at a page and an item (-1: the default).
+QDialog* createTForm23(QWidget* parent, int wahlseite = -1, int wahlpunkt = -1);   // tool 23, "Kryptografie"
+QDialog* createTenigmaf(QWidget* parent, int wahlseite = -1, int wahlpunkt = -1);  // tool 70, "Enigma"
 
 }  // namespace crypto

@@ -1,4 +1,5 @@
 #include "app/lint.h"
+#include "app/teilprogramm.h"
 #include "app/winfkt.h"
 #include "app/proliste.h"
 #include "app/usuche.h"
@@ -10,6 +11,8 @@
 #include "tools/packer.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QDialog>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <gtest/gtest.h>
@@ -260,4 +263,22 @@ TEST_F(Shell, TopicListOffersEveryCatalogueTitleOnceAndFilters)
     app::Tproliste texte(form.get(), true);
     for (int i = 0; i < texte.liste->count(); ++i)
         EXPECT_FALSE(texte.liste->item(i)->text().isEmpty());
+}
+
+TEST(ToolTable, WindowOpensAtTheCataloguesItem)
+{
+    // "Atbasch-Verschlüsselung" is item 5 of tool 23: the cipher list stands on that method.
+    const app::WerkzeugEintrag* e = app::werkzeugEintrag(23);
+    ASSERT_TRUE(e && e->fabrik);
+    lexicon::wahlseite = 0;
+    lexicon::wahlpunkt = 5;
+    std::unique_ptr<QDialog> d(e->fabrik(nullptr));
+    lexicon::wahlseite = lexicon::wahlpunkt = -1;
+    bool found = false;
+    for (auto* cb : d->findChildren<QComboBox*>())
+        if (cb->count() == 22) {
+            found = true;
+            EXPECT_EQ(cb->currentText().toStdString(), "Atbasch-Verschlüsselung");
+        }
+    EXPECT_TRUE(found) << "no method list in the cipher window";
 }
