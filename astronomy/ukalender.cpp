@@ -18,6 +18,8 @@
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTreeWidget>
+
+#include <iterator>
 #include <QVBoxLayout>
 
 using namespace astro::kal;
@@ -120,7 +122,6 @@ void TKalenderBlatt::mousePressEvent(QMouseEvent* e)
 
 TFkalend::TFkalend(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(parent)
 {
-    (void)wahlpunkt;
     setWindowTitle("Quorix");
     resize(1008, 710);
     res_ = astro::loadKalenderResources();
@@ -202,6 +203,7 @@ TFkalend::TFkalend(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(pare
     connect(T2_, &QSpinBox::valueChanged, this, [this] { T2Change(); });
     connect(B4, &QPushButton::clicked, this, [this] { differenzC(); });
 
+    markiere_ = wahlseite == 0 ? wahlpunkt : -1;
     heute();
     E2_->setText(datumText(datum_));
     differenzC();
@@ -226,6 +228,21 @@ void TFkalend::setzeDatum(const Date& dIn)
 void TFkalend::datum()
 {
     fuelle(LB1_, kalenderZeilen(datum_, res_, CB1_->isChecked()));
+    // the calendar the catalogue chose stays selected from day to day
+    static const char* const zeilen[] = {
+        "Julianisches Datum", "Modifiziertes Julianisches Datum", "Julianischer Kalender", "Gregorianischer Tag",
+        "UNO-Weltkalender", "Römischer Kalender", "Altägyptischer Kalender", "Jüdischer Kalender",
+        "Japanischer Kalender", "Chinesischer Kalender", "Islamischer Kalender",
+        "Französischer Revolutionskalender", "Iranischer Kalender", "Maya-Kalender", "Azteken-Kalender",
+        "Koptischer Kalender", "Äthiopischer Kalender", "Indischer Kalender", "Bahâi-Kalender",
+        "Darischer Marskalender", "Ostersonntag"};
+    if (markiere_ >= 0 && markiere_ < static_cast<int>(std::size(zeilen))) {
+        const auto treffer = LB1_->findItems(u(zeilen[markiere_]), Qt::MatchExactly, 0);
+        if (!treffer.isEmpty()) {
+            LB1_->setCurrentItem(treffer.front());
+            LB1_->scrollToItem(treffer.front());
+        }
+    }
     blatt_->update();
 }
 

@@ -50,6 +50,7 @@ private:
 
     astro::kal::Resources res_;
     astro::kal::Date datum_;
+    int markiere_ = -1;  // catalogue item: the calendar line kept selected
     bool sperre_ = false;
     QTabWidget* tabs_ = nullptr;
     TKalenderBlatt* blatt_ = nullptr;

@@ -4,7 +4,11 @@
 
 #include <QApplication>
 #include <QPixmap>
+#include <QTabWidget>
+#include <QTreeWidget>
 #include <gtest/gtest.h>
+
+#include <memory>
 
 TEST(Window, CalendarWindowShowsDate)
 {
@@ -28,4 +32,20 @@ TEST(Window, CalendarWindowShowsDate)
     EXPECT_EQ(pic.size(), QSize(1008, 710));
     if (const char* out = std::getenv("QUORIX_PNG")) pic.save(out);
     delete dlg;
+
+    // the catalogue's "Chinesischer Kalender" (item 9) stays selected when the day changes;
+    // "Datumsdifferenz" is page 1
+    std::unique_ptr<QDialog> china(createTFkalend(nullptr, 0, 9));
+    auto* k = qobject_cast<TFkalend*>(china.get());
+    k->setzeDatum({2024, 2, 10});
+    QTreeWidget* liste = nullptr;
+    for (auto* t : k->findChildren<QTreeWidget*>())
+        if (t->headerItem()->text(0) == "Kalender") liste = t;
+    ASSERT_NE(liste, nullptr);
+    ASSERT_NE(liste->currentItem(), nullptr);
+    EXPECT_EQ(liste->currentItem()->text(0), QString::fromUtf8("Chinesischer Kalender"));
+    std::unique_ptr<QDialog> diff(createTFkalend(nullptr, 1, -1));
+    const auto tabs = diff->findChildren<QTabWidget*>();
+    ASSERT_FALSE(tabs.isEmpty());
+    EXPECT_EQ(tabs.front()->currentIndex(), 1);
 }
