@@ -173,6 +173,13 @@ Tfmuehle::Tfmuehle(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(pare
     zugAnzeige_ = new QLabel;
     zugAnzeige_->setStyleSheet("font-size: 13pt; color: #000080;");
     links->addWidget(zugAnzeige_);
+    auto* hilfe = new QLabel(QString::fromUtf8(
+        "Setzen: freien Punkt anklicken. Ziehen und Springen: eigenen Stein mit der Maus auf einen "
+        "freien Punkt ziehen. Nach einer Mühle den Stein anklicken, der geschlagen wird."));
+    hilfe->setWordWrap(true);
+    hilfe->setMaximumWidth(kBrett);
+    hilfe->setStyleSheet("color: #505050;");
+    links->addWidget(hilfe);
     links->addStretch();
     aussen->addLayout(links);
 
