@@ -10,7 +10,7 @@ namespace {
 using quorix::Args;
 
 const char* const kAufruf =
-    "Aufruf: quorix muehle zug STELLUNG [--am 1|2] [--zugzahl N] [--tiefe N] | "
+    "Aufruf: quorix muehle zug STELLUNG [--am 1|2] [--zugzahl N] [--tiefe N] [--test] | "
     "quorix muehle partie [--tiefe N] [--tiefe2 N]  (STELLUNG: 24 Zeichen . x o, "
     "optional :VORRAT1,VORRAT2; Tiefe 1 bis 6)";
 
@@ -36,6 +36,7 @@ bool optionZahl(Args& args, const std::string& name, int lo, int hi, int& v, std
 int zug(Args args, std::ostream& out, std::ostream& err)
 {
     int tiefe = 3, am = 2, zugzahl = 0;
+    const bool test = quorix::takeFlag(args, "--test");
     if (!optionZahl(args, "--tiefe", 1, 6, tiefe, err) || !optionZahl(args, "--am", 1, 2, am, err) ||
         !optionZahl(args, "--zugzahl", 1, muehle::kZugGrenze, zugzahl, err))
         return 2;
@@ -56,7 +57,10 @@ int zug(Args args, std::ostream& out, std::ostream& err)
     }
     muehle::Suche suche;
     suche.zugzahl = zugzahl;
+    suche.testausgabe = test;
     const muehle::Entscheidung e = muehle::Computerzug(s, am, tiefe, suche);
+    for (const std::string& z : suche.ausgabe)
+        out << z << "\n";
     if (!e.gefunden) {
         out << "Kein Zug möglich.\n";
         return 1;

@@ -16,6 +16,9 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTimer>
+#include <QToolButton>
+#include <QCheckBox>
+#include <QElapsedTimer>
 #include <QVBoxLayout>
 
 using namespace muehle;
@@ -211,6 +214,9 @@ Tfmuehle::Tfmuehle(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(pare
     staerke->addWidget(rx1_);
     staerke->addStretch();
     vl->addLayout(staerke);
+    testausgabe_ = new QCheckBox("Testausgabe");
+    testausgabe_->setToolTip(QString::fromUtf8("Die Suche schreibt ihre Bewertungen in die Liste der Spielzüge."));
+    vl->addWidget(testausgabe_);
     rechts->addWidget(variante);
 
     auto* stand = new QGroupBox("Spielstand");
@@ -242,6 +248,22 @@ Tfmuehle::Tfmuehle(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(pare
     LB1_->setFont(mono);
     rechts->addWidget(LB1_, 1);
     aussen->addLayout(rechts, 1);
+
+    // Close, print, copy and save the board from the title band.
+    const int arten[4] = {4, 3, 2, 1};
+    for (int i = 0; i < 4; ++i) {
+        auto* b = new QToolButton(this);
+        platform::SetToolButton(b, arten[i]);
+        b->setGeometry(1008 - 16 - 36 * (i + 1), 10, 32, 32);
+        b->setAutoRaise(true);
+        const auto malen = [this](platform::Canvas& c, int, int) { muehleZeichnen(c, bild()); };
+        switch (arten[i]) {
+        case 1: connect(b, &QToolButton::clicked, this, [this] { reject(); }); break;
+        case 2: connect(b, &QToolButton::clicked, this, [this, malen] { platform::PrintPicture(kBrett, kBrett, malen, this); }); break;
+        case 3: connect(b, &QToolButton::clicked, this, [this, malen] { platform::CopyPicture(kBrett, kBrett, malen, this); }); break;
+        default: connect(b, &QToolButton::clicked, this, [this, malen] { platform::SavePicture(kBrett, kBrett, malen, this); }); break;
+        }
+    }
 
     connect(D1_, &QPushButton::clicked, this, [this] { D1C(); });
     connect(D2_, &QPushButton::clicked, this, [this] { D2C(); });
@@ -287,6 +309,8 @@ void Tfmuehle::setzeVariante(int item)
     RG1_->button(item)->setChecked(true);
     variante_ = item;
 }
+
+void Tfmuehle::setzeTestausgabe(bool an) { testausgabe_->setChecked(an); }
 
 void Tfmuehle::setzeTiefe(int tiefe) { rx1_->setValue(tiefe); }
 
@@ -355,12 +379,25 @@ void Tfmuehle::Computerzug()
     const int tiefe = suchtiefe_;  // the spin edit doesn't reach a search under way
     QApplication::setOverrideCursor(Qt::WaitCursor);
     Suche suche;
+    suche.testausgabe = testausgabe_->isChecked();
+    QElapsedTimer uhr;
+    uhr.start();
     const Entscheidung e = spiel_.computerZiehen(tiefe, suche);
+    const double sekunden = uhr.elapsed() / 1000.0;
     QApplication::restoreOverrideCursor();
     rechnet_ = false;
     if (e.gefunden) {
         zugAnzeige_->setText("Computer " + u8(zugText(e.zug)));
         nachZug(e.zug.schlag != kKein);
+    }
+    if (suche.testausgabe) {
+        // The trace stands under the protocol until the next move rebuilds the list.
+        for (const std::string& z : suche.ausgabe)
+            LB1_->addItem(u8(z));
+        if (!e.sofortsieg)
+            LB1_->addItem(QString::asprintf("Rechenzeit: %0.2f Sek.", sekunden));
+        LB1_->addItem(QString("%1 Stellungen").arg(suche.stellungen));
+        LB1_->scrollToBottom();
     }
 }
 

@@ -8,6 +8,7 @@
 #include <optional>
 
 class QButtonGroup;
+class QCheckBox;
 class QLabel;
 class QListWidget;
 class QPushButton;
@@ -50,7 +51,8 @@ public:
 
     const muehle::Muehlespiel& spiel() const { return spiel_; }
     MuehleBild bild() const;
-    QString status() const;     // the line under the buttons: whose turn, "Spielende!", ...
+    QString status() const;
+    void setzeTestausgabe(bool an);     // the line under the buttons: whose turn, "Spielende!", ...
     QStringList spielzuege() const;
     void setzeVariante(int item);  // RG1 item 0, 1 or 2
     void setzeTiefe(int tiefe);
@@ -87,6 +89,7 @@ private:
     TMuehleBrett* PB1_ = nullptr;
     QButtonGroup* RG1_ = nullptr;
     QSpinBox* rx1_ = nullptr;
+    QCheckBox* testausgabe_ = nullptr;
     QPushButton* D1_ = nullptr;
     QPushButton* D2_ = nullptr;
     QPushButton* D3_ = nullptr;

@@ -201,6 +201,12 @@ TEST(MuehleBefehl, HeadlessMoveAndGame)
     EXPECT_EQ(out.str().rfind("Zug: G4 - G7 schlägt ", 0), 0u) << out.str();
     EXPECT_NE(out.str().find("\nStellungen: "), std::string::npos);
     EXPECT_NE(out.str().find("\nDanach: ooo"), std::string::npos);
+    // With the trace, every root move shows its value before the answer.
+    out.str("");
+    EXPECT_EQ(cmds[0].run({"zug", "xx..........o...........:7,8", "--tiefe", "1", "--test"}, out, err), 0);
+    EXPECT_EQ(out.str().rfind("Wert Von G7 = ", 0), 0u) << out.str();
+    EXPECT_NE(out.str().find("bester Zug:G7 = "), std::string::npos) << out.str();
+    EXPECT_NE(out.str().find("\nZug: G7\n"), std::string::npos) << out.str();
     // No move: x has two stones.
     out.str("");
     EXPECT_EQ(cmds[0].run({"zug", "xx.....ooo..o...........", "--am", "1"}, out, err), 1);
