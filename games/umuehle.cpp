@@ -241,12 +241,14 @@ Tfmuehle::Tfmuehle(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(pare
     g->addWidget(status_, 3, 0, 1, 4);
     rechts->addWidget(stand);
 
-    rechts->addWidget(new QLabel(QString::fromUtf8("Spielzüge")));
+    auto* zuege = new QGroupBox(QString::fromUtf8("Spielzüge"));
+    auto* zl = new QVBoxLayout(zuege);
     LB1_ = new QListWidget;
     QFont mono("DejaVu Sans Mono");
     mono.setPointSize(10);
     LB1_->setFont(mono);
-    rechts->addWidget(LB1_, 1);
+    zl->addWidget(LB1_);
+    rechts->addWidget(zuege, 1);
     aussen->addLayout(rechts, 1);
 
     // Close, print, copy and save the board from the title band.
