@@ -120,3 +120,22 @@ TEST(MuehleFenster, StonesAreDraggedWhileMoving)
     EXPECT_EQ(w.spielzuege().back(), "19: Spieler C5 - D5");
     EXPECT_EQ(w.status(), "Spieler B zieht!");
 }
+
+TEST(MuehleFenster, ComputerBeginsWithTrace)
+{
+    Tfmuehle w;
+    w.setzeVariante(1);
+    w.setzeTiefe(1);
+    w.setzeTestausgabe(true);
+    w.D1C();
+    EXPECT_EQ(w.spiel().zugzahl(), 2);
+    EXPECT_EQ(w.spiel().anDerReihe(), 1);
+    const QStringList l = w.spielzuege();
+    ASSERT_GE(l.size(), 4);
+    EXPECT_TRUE(l[0].startsWith(" 1: Computer ")) << l[0].toStdString();
+    // 24 root moves at depth 1, each with its value, then the time and the count
+    EXPECT_EQ(l.filter("Wert Von ").size(), 24);
+    EXPECT_EQ(l.filter("Rechenzeit: ").size(), 1);
+    EXPECT_TRUE(l.last().endsWith(" Stellungen"));
+    EXPECT_EQ(w.status(), "Spieler A setzt!");
+}
