@@ -5,6 +5,7 @@
 #include "app/lint.h"
 #include "astronomy/commands.h"
 #include "crypto/commands.h"
+#include "games/commands.h"
 #include "graphs/commands.h"
 #include "numbers/commands.h"
 #include "numbers/factor/factorcommands.h"
@@ -286,7 +287,7 @@ std::vector<quorix::HeadlessCommand> alleBefehle()
     std::vector<quorix::HeadlessCommand> alle = appCommands();
     for (auto* satz : {&kernel::kernelCommands, &quorix::termCommands, &platform::platformCommands, &crypto::cryptoCommands,
                        &::astronomyCommands, &::numbersCommands, &graphs::graphsCommands,
-                       &::factorCommands}) {
+                       &::factorCommands, &::gamesCommands}) {
         auto mehr = satz();
         alle.insert(alle.end(), mehr.begin(), mehr.end());
     }

@@ -2,6 +2,7 @@
 
 #include "astronomy/windows.h"
 #include "crypto/windows.h"
+#include "games/windows.h"
 #include "graphs/windows.h"
 #include "numbers/windows.h"
 #include "numbers/factor/factorwindows.h"
@@ -85,7 +86,7 @@ const std::vector<WerkzeugEintrag>& werkzeugtabelle()
             {92, A::B, "Tztetris", {}},     {93, A::A, "Tfvier2", {}},     {94, A::A, "Tfbruch", {}},
             {95, A::A, "TFGraf", {}},       {96, A::A, "TFMus", {}},       {97, A::D, "TOpBox", ::createTOpBox},
             {98, A::E, "quorixx.exe", {}},  {99, A::E, "rechner.exe", {}}, {101, A::B, "TGBoard", {}},
-            {102, A::A, "Tfmuehle", {}},    {103, A::A, "Tf11kugel", {}},  {104, A::A, "TTDame", {}},
+            {102, A::A, "Tfmuehle", ::createTfmuehle},    {103, A::A, "Tf11kugel", {}},  {104, A::A, "TTDame", {}},
             {105, A::A, "Tfstraights", {}}, {106, A::A, "Tfdigger", {}},   {107, A::A, "Trubik", {}},
             {108, A::A, "Tfothello", {}},   {109, A::A, "Tpyram", {}},     {110, A::A, "Tftictac", {}},
             {111, A::A, "Tfescher", {}},    {112, A::A, "Tptangram", {}},  {113, A::A, "Tform10k", {}},
