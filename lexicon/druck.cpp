@@ -1,5 +1,6 @@
 #include "lexicon/druck.h"
 
+#include "lexicon/einstellungen.h"
 #include "lexicon/pagestore.h"
 #include "platform/container.h"
 
@@ -65,8 +66,9 @@ const TColor kRot = platform::rgb(255, 0, 0);
 std::string druckzeileFiltern(const std::string& zeile)
 {
     std::string s = zeile;
-    linksSchneiden(s, "$*\xBB" "B");
-    linksSchneiden(s, "$*\xBB" "F");
+    // With the colon, so that tools named "F..." or "B..." keep the text behind their link.
+    linksSchneiden(s, "$*\xBB" "B:");
+    linksSchneiden(s, "$*\xBB" "F:");
     return s.empty() ? std::string(" ") : s;
 }
 
@@ -74,6 +76,17 @@ bool istBildschirmzeile(const std::string& zeile)
 {
     // "$*»" followed by G, C, R, V, T or a tool's name: nothing of it has a meaning on paper.
     return beginntMit(zeile, "$*\xBB");
+}
+
+DruckEinstellungen druckEinstellungenVon(const Einstellungen& e)
+{
+    DruckEinstellungen d;
+    d.druckschrift = e.druckschrift;
+    d.druckgroesse = e.druckfontsize;
+    d.linksDruck = e.linksDruck;
+    d.rechtsDruck = e.rechtsDruck;
+    d.obenDruck = e.obenDruck;
+    return d;
 }
 
 DruckVariablen druckVariablen(const DruckGeraet& g, const DruckEinstellungen& e, int bildBreite, int bildHoehe)

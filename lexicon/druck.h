@@ -21,6 +21,8 @@ std::string druckzeileFiltern(const std::string& zeile);
 // an extra picture, a table or the turning of pages.
 bool istBildschirmzeile(const std::string& zeile);
 
+struct Einstellungen;
+
 // What the walk needs to know of the printer.
 struct DruckGeraet {
     int dpiX = 600;
@@ -38,6 +40,9 @@ struct DruckEinstellungen {
     int rechtsDruck = 25;
     int obenDruck = 25;
 };
+
+// Font and margins from the settings (UntenDruck is kept there but no print uses it).
+DruckEinstellungen druckEinstellungenVon(const Einstellungen& e);
 
 struct DruckVariablen {
     int xfaktor = 1;

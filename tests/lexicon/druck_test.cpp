@@ -96,6 +96,7 @@ TEST(DruckFilter, PlotAndCalculationLinksAreCut)
     EXPECT_EQ(druckzeileFiltern("Wert $*\xBB" "B: 2+3\xAB$> ist 5"), "Wert ist 5");
     EXPECT_EQ(druckzeileFiltern("$*\xBB" "B: a\xAB$>$*\xBB" "F: b\xAB$>"), " ");
     EXPECT_EQ(druckzeileFiltern(""), " ");
+    EXPECT_EQ(druckzeileFiltern("ein $*\xBB" "Funktionenplotter$> hier"), "ein $*\xBB" "Funktionenplotter$> hier");
     EXPECT_EQ(druckzeileFiltern("$*\xBB" "G:bild\xAB$>"), "$*\xBB" "G:bild\xAB$>");  // whole lines go later
 }
 
