@@ -1,11 +1,14 @@
 // The text window of a copied page, and the page command's RTF and PDF output.
 #include "app/commands.h"
 #include "app/trtfform.h"
+#include "app/winfkt.h"
+#include "lexicon/globals.h"
 #include "lexicon/rtf.h"
 #include "tools/packer.h"
 
 #include "../lexicon/druck_testseiten.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QPixmap>
 #include <QTextCursor>
@@ -181,4 +184,23 @@ TEST_F(SeitenAusgabe, PdfListsThePrintedLines)
     EXPECT_NE(gedruckt[1].find("\tEin Kreis hat einen $<Radius$>."), std::string::npos);
 
     EXPECT_EQ(befehl({"page", "Kreis", "--pdf"}, aus, fehler), 2);
+}
+
+TEST_F(SeitenAusgabe, CopyingTheShownPageWritesTheExportFile)
+{
+    app::TForm1 f(true);
+    f.resize(1008, 730);
+    f.show();
+    QApplication::processEvents();
+    ASSERT_TRUE(f.stichwortWaehlen("Kreisumfang"));
+    QAction* kopieren = f.menuePunkt("S28C");
+    ASSERT_NE(kopieren, nullptr);
+    fs::remove(lexicon::rtfDateiname());
+    kopieren->trigger();
+    EXPECT_EQ(f.letzteAktion(), "Trtfform");
+    std::string daten;
+    ASSERT_TRUE(platform::readFile(lexicon::rtfDateiname(), daten)) << lexicon::rtfDateiname();
+    // "2$pr": the Symbol font's p is pi; the turning link back is gone.
+    EXPECT_NE(daten.find("Der Umfang ist 2\\f1 p\\f0 r, siehe Radius.\\par "), std::string::npos) << daten;
+    EXPECT_EQ(daten.find("zur"), std::string::npos);
 }
