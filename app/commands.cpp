@@ -14,7 +14,9 @@
 #include "kernel/termcommands.h"
 #include "platform/commands.h"
 #include "kernel/headless.h"
+#include "lexicon/druck.h"
 #include "lexicon/einstellungen.h"
+#include "lexicon/rtf.h"
 #include "lexicon/globals.h"
 #include "lexicon/toolcatalog.h"
 #include "platform/codepage.h"
@@ -67,14 +69,51 @@ void fensterZeigen(TForm1& f, int w, int h)
     f.anordnen();
 }
 
+// --rtf and --pdf: the export and the print walk of the shown page; the print lists its lines.
+int seiteAusgeben(TForm1& f, const std::string& rtf, const std::string& pdf, std::ostream& out, std::ostream& err)
+{
+    const int seite = f.aktseite();
+    lexicon::PageStore& store = f.pageStore();
+    try {
+        if (!rtf.empty()) {
+            store.blockFuerSeite(seite);
+            const platform::StringList zeilen = lexicon::rtfSeite(store.seitenblock, seite);
+            lexicon::rtfDateiSchreiben(rtf, zeilen);
+            out << "RTF\t" << rtf << "\t" << zeilen.size() << "\n";
+        }
+        if (!pdf.empty()) {
+            const int L = store.kopfzeile(seite);
+            platform::Picture bild;
+            lexicon::SeitenbildQuelle q;
+            if (lexicon::seitenbildSuchen(store.seitenblock, L, q))
+                bild = lexicon::seitenbildLaden(lexicon::bildpfad, q);
+            const lexicon::DruckErgebnis erg = lexicon::seiteAlsPdf(pdf, store.seitenblock, L, bild,
+                                                                    lexicon::druckEinstellungenVon(lexicon::einstellungen));
+            const lexicon::DruckVariablen& v = erg.anfang;
+            out << "PDF\t" << pdf << "\t" << erg.zeilen.size() << "\n";
+            out << "Druck\txfaktor " << v.xfaktor << "\tyfaktor " << v.yfaktor << "\tdruckzeile " << v.druckzeile
+                << "\trand_links " << v.rand_links << "\trand_oben " << v.rand_oben << "\tbildeinzug " << v.bildeinzug
+                << "\tbildhoehe " << v.bildhoehe << "\n";
+            for (const auto& z : erg.zeilen)
+                out << "Druckzeile\t" << z.x << "\t" << z.y << "\t" << utf8(z.text) << "\n";
+        }
+    } catch (const std::exception& e) {
+        err << "Ausgabe nicht möglich: " << e.what() << "\n";
+        return 1;
+    }
+    return 0;
+}
+
 int cmdPage(quorix::Args args, std::ostream& out, std::ostream& err)
 {
-    std::string png, size;
+    std::string png, size, rtf, pdf;
     quorix::takeOption(args, "--png", png);
+    quorix::takeOption(args, "--rtf", rtf);
+    quorix::takeOption(args, "--pdf", pdf);
     const bool mitGroesse = quorix::takeOption(args, "--size", size);
     const bool ganzesFenster = quorix::takeFlag(args, "--window");
     if (args.size() != 1) {
-        err << "Aufruf: quorix page STICHWORT|#NUMMER [--png DATEI] [--size BxH] [--window]\n";
+        err << "Aufruf: quorix page STICHWORT|#NUMMER [--png DATEI] [--size BxH] [--window] [--rtf DATEI] [--pdf DATEI]\n";
         return 2;
     }
     int w = 1008, h = 710;
@@ -111,7 +150,7 @@ int cmdPage(quorix::Args args, std::ostream& out, std::ostream& err)
         err << "Bild kann nicht gespeichert werden: " << png << "\n";
         return 1;
     }
-    return 0;
+    return seiteAusgeben(f, rtf, pdf, out, err);
 }
 
 int cmdCatalog(quorix::Args args, std::ostream& out, std::ostream& err)
@@ -271,7 +310,7 @@ int cmdLint(quorix::Args args, std::ostream& out, std::ostream& err)
 std::vector<quorix::HeadlessCommand> appCommands()
 {
     return {
-        {"page", "page STICHWORT|#NUMMER [--png DATEI] [--size BxH] [--window]  Seite zeichnen, Links auflisten", cmdPage},
+        {"page", "page STICHWORT|#NUMMER [--png DATEI] [--size BxH] [--window] [--rtf DATEI] [--pdf DATEI]  Seite zeichnen, Links auflisten, als RTF oder PDF ausgeben", cmdPage},
         {"catalog", "catalog TITEL  Werkzeugnummer, Seite und Punkt eines Katalogtitels", cmdCatalog},
         {"keywords", "keywords  die Stichwortliste mit Seitennummern", cmdKeywords},
         {"tool", "tool N [--page P] [--item I] --png DATEI  Bild eines Werkzeugfensters (0: Hauptfenster)", cmdTool},

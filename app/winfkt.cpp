@@ -5,12 +5,15 @@
 #include "app/teilprogramm.h"
 #include "app/proliste.h"
 #include "app/tfo3.h"
+#include "app/trtfform.h"
 #include "app/usuche.h"
 #include "kernel/term.h"
 #include "kernel/termderiv.h"
 #include "graphs/windows.h"
 #include "lexicon/suche.h"
 #include "lexicon/datenpfad.h"
+#include "lexicon/druck.h"
+#include "lexicon/rtf.h"
 #include "lexicon/einstellungen.h"
 #include "lexicon/globals.h"
 #include "lexicon/keywordorder.h"
@@ -35,11 +38,14 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
 #include <QUrl>
 #include <algorithm>
+#include <cstdio>
 #include <iostream>
 #include <memory>
 
@@ -1282,17 +1288,56 @@ void TForm1::S12C(bool zusatztexte)
 
 namespace app {
 
-// The page as a picture: what the reader sees, formulas included.
+// The page as RTF text in its own window; the export file lives only while the window is open.
 void TForm1::S28C()
 {
-    platform::CopyPicture(seitenbild_.width(), seitenbild_.height(),
-                          [this](platform::Canvas& c, int, int) { c.draw(0, 0, seitenbild_); }, this);
+    const int idx = LB1->currentRow();
+    if (idx < 0 || idx >= static_cast<int>(lb1Zeilen_.size()))
+        return;
+    try {
+        const int seite = lexicon::seitennummerAusStichwort(lb1Zeilen_[static_cast<size_t>(idx)]);
+        const int L = store_.kopfzeile(seite);  // loads the block
+        const std::string pfad = lexicon::rtfDateiname();
+        lexicon::rtfDateiSchreiben(pfad, lexicon::rtfSeite(store_.seitenblock, seite));
+        letzteseite_ = aktseite_;
+        platform::Picture bild;
+        lexicon::SeitenbildQuelle q;
+        if (bildseite_ && lexicon::seitenbildSuchen(store_.seitenblock, L, q))
+            bild = bildLaden(q.container, q.typ, q.name);
+        letzteAktion_ = "Trtfform";
+        if (!headless_) {
+            Trtfform f(this, pfad, bild, fromCp1252(titel_));
+            f.exec();
+            std::remove(pfad.c_str());
+        }
+    } catch (const std::exception& e) {
+        myexceptionhandler(e.what());
+    }
 }
 
+// The page walked once more onto the printer: one page, one sheet.
 void TForm1::Dr1C()
 {
-    platform::PrintPicture(seitenbild_.width(), seitenbild_.height(),
-                           [this](platform::Canvas& c, int, int) { c.draw(0, 0, seitenbild_); }, this);
+    const int idx = LB1->currentRow();
+    if (idx < 0 || idx >= static_cast<int>(lb1Zeilen_.size()))
+        return;
+    try {
+        const int seite = lexicon::seitennummerAusStichwort(lb1Zeilen_[static_cast<size_t>(idx)]);
+        const int L = store_.kopfzeile(seite);
+        platform::Picture bild;
+        lexicon::SeitenbildQuelle q;
+        if (bildseite_ && lexicon::seitenbildSuchen(store_.seitenblock, L, q))
+            bild = bildLaden(q.container, q.typ, q.name);
+        QPrinter printer(QPrinter::HighResolution);
+        QPrintDialog dlg(&printer, this);
+        dlg.setWindowTitle(QStringLiteral("Drucken"));
+        if (dlg.exec() != QDialog::Accepted)
+            return;
+        lexicon::seiteDrucken(printer, store_.seitenblock, L, bild, lexicon::druckEinstellungenVon(lexicon::einstellungen));
+        letzteseite_ = aktseite_;
+    } catch (const std::exception& e) {
+        myexceptionhandler(e.what());
+    }
 }
 
 }  // namespace app
