@@ -34,6 +34,7 @@ void drawDiagram(platform::Canvas& c, int x, int y, int w, int h, const std::vec
     const int left = x + 50, right = x + w - 10, upper = y + 28, lower = y + h - 24;
     c.setFontName("Verdana");
     c.setFontSize(8);
+    c.setFontStyle(0);
     c.setFontColor(platform::clBlack);
     c.setBrushStyle(platform::BrushStyle::Clear);
     // axes with the largest count and the number of steps
@@ -42,7 +43,8 @@ void drawDiagram(platform::Canvas& c, int x, int y, int w, int h, const std::vec
     c.lineTo(right, lower);
     c.textOutW(x + 6, upper - 6, QString::number(top));
     c.textOutW(x + 30, lower - 8, "0");
-    c.textOutW(right - 60, lower + 4, QString::number(len ? len - 1 : 0) + " " + QString::fromUtf8(xLabel.c_str()));
+    const QString steps = QString::number(len ? len - 1 : 0) + " " + QString::fromUtf8(xLabel.c_str());
+    c.textOutW(right - c.textWidthW(steps), lower + 4, steps);
     int lx = left;
     for (const Series& s : series) {
         c.setFontColor(s.color);
