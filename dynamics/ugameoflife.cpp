@@ -141,7 +141,7 @@ void TForm14::FormCreate()
     verzoegerung_->setSuffix(" ms");
     fl->addWidget(new QLabel("Zellen je Seite", this), 0, 0);
     fl->addWidget(groesseFeld_, 0, 1);
-    fl->addWidget(new QLabel("Größe (Pixel)", this), 0, 2);
+    fl->addWidget(new QLabel("Größe", this), 0, 2);
     fl->addWidget(zellFeld_, 0, 3);
     fl->addWidget(new QLabel("Verzögerung", this), 1, 0);
     fl->addWidget(verzoegerung_, 1, 1);

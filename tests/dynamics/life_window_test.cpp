@@ -83,6 +83,15 @@ TEST(LifeWindow, MouseTogglesCellsAndCellSizeIsForcedIntoRange)
     // clicks beside the board change nothing
     QTest::mouseClick(pb, Qt::LeftButton, {}, QPoint(2, 2));
     EXPECT_EQ(w.life().population(), before);
+
+    // a board size beyond 80 is forced to 80 and written back; the pattern is loaded again
+    auto* seite = w.findChild<QSpinBox*>("T1");
+    seite->setValue(200);
+    Q_EMIT seite->editingFinished();
+    EXPECT_EQ(seite->value(), 80);
+    EXPECT_EQ(w.life().boardSize(), 80);
+    EXPECT_EQ(w.life().population(), before);
+    EXPECT_EQ(w.life().generation(), 0);
 }
 
 TEST(LifeWindow, WaTorStopsWhenTheLastSharkDies)
