@@ -34,8 +34,9 @@ const LifePattern* findPattern(const std::vector<LifePattern>& patterns, const s
 // Clears the board and its counters and sets the pattern's cells; cells off the board are lost.
 void loadPattern(LifeGame& game, const LifePattern& pattern);
 
-// The lines of the resource from the text container (000/texte.dll beside the program),
-// or from a UTF-8 text file when `path` names one. Empty when missing.
+// The lines of the resource "game" of a text container (by default 000/texte.dll beside the
+// program), or of a UTF-8 text file when `path` names one. Empty when missing.
 std::vector<std::string> loadPatternLines(const std::string& path = {});
+std::vector<std::string> loadPatternResource(const std::string& containerPath = {});
 
 }  // namespace dynamics

@@ -1,8 +1,11 @@
 // The headless commands life and wator: output lines, exit codes and messages.
 #include "dynamics/commands.h"
+#include "dynamics/lifepatterns.h"
+#include "platform/container.h"
 
 #include <QImage>
 #include <cstdio>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
 
@@ -110,4 +113,42 @@ TEST(WatorCommand, PrintsConsistentCountsPerChronon)
     EXPECT_EQ(run("wator", {"--fische", "80", "--haie", "30"}).code, 2);
     EXPECT_EQ(run("wator", {"--groesse", "1"}).code, 2);
     EXPECT_EQ(run("wator", {"--unsinn"}).code, 2);
+}
+
+TEST(PatternLibrary, ReadsTheResourceFromATextContainer)
+{
+    // the packer's form: Windows-1252 lines with CR LF inside the container
+    std::vector<std::string> lines;
+    std::ifstream in(kGame);
+    for (std::string line; std::getline(in, line);)
+        lines.push_back(line + "\r");
+    const std::string dll = std::string(QUORIX_BUILD_DIR) + "/life_test_texte.dll";
+    platform::ContainerWriter w;
+    w.addText("10", "game", lines);
+    w.write(dll);
+    const auto fromContainer = dynamics::parsePatterns(dynamics::loadPatternResource(dll));
+    const auto fromFile = dynamics::parsePatterns(dynamics::loadPatternLines(kGame));
+    ASSERT_EQ(fromContainer.size(), fromFile.size());
+    for (size_t k = 0; k < fromFile.size(); ++k) {
+        EXPECT_EQ(fromContainer[k].number, fromFile[k].number);
+        EXPECT_EQ(fromContainer[k].rows, fromFile[k].rows);
+    }
+    EXPECT_TRUE(dynamics::loadPatternResource(dll + ".fehlt").empty());
+}
+
+TEST(PatternLibrary, SkipsBrokenBlocks)
+{
+    const auto p = dynamics::parsePatterns({"[7", "2", "3", "0110", "1001", "[x", "1", "1", "11", "[8", "4", "[9", "0",
+                                            "0", "1"});
+    ASSERT_EQ(p.size(), 2u);
+    EXPECT_EQ(p[0].number, 7);
+    EXPECT_EQ(p[0].rowOffset, 2);
+    EXPECT_EQ(p[0].colOffset, 3);
+    EXPECT_EQ(p[0].rows, (std::vector<std::string>{"0110", "1001"}));
+    EXPECT_EQ(p[1].number, 9);
+    dynamics::LifeGame g(10);
+    dynamics::loadPattern(g, p[0]);
+    EXPECT_EQ(g.population(), 4);
+    EXPECT_EQ(g.cell(3, 5), 1);  // row offset 2 + row 1, column offset 3 + position 2
+    EXPECT_EQ(g.cell(4, 4), 1);
 }
