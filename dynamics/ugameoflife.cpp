@@ -240,8 +240,25 @@ QWidget* TForm14::buildLifePanel()
     connect(torus_, &QCheckBox::toggled, this, [this](bool on) { life_.torus = on; });
     l->addWidget(regel);
 
+    auto* unten = new QHBoxLayout;
+    auto* zufall = new QPushButton("Zufallsfeld", w);
+    zufall->setObjectName("zufall");
     auto* leeren = new QPushButton("Spielfeld löschen", w);
-    l->addWidget(leeren);
+    unten->addWidget(zufall);
+    unten->addWidget(leeren);
+    l->addLayout(unten);
+    connect(zufall, &QPushButton::clicked, this, [this] {
+        // about every third cell alive, in the first kind
+        LB1_->setCurrentRow(-1);
+        life_.setBoardSize(boardSize());
+        std::uniform_int_distribution<int> d(0, 2);
+        for (int r = 1; r <= life_.boardSize(); ++r)
+            for (int c = 1; c <= life_.boardSize(); ++c)
+                if (d(rng_) == 0) life_.setCell(r, c, 1);
+        verlauf_.clear();
+        record();
+        showState();
+    });
     connect(leeren, &QPushButton::clicked, this, [this] {
         life_.clear();
         verlauf_.clear();

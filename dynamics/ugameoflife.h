@@ -10,6 +10,7 @@
 #include <QRect>
 #include <array>
 #include <memory>
+#include <random>
 #include <vector>
 
 class QAction;
@@ -85,7 +86,7 @@ private:
     std::vector<PatternName> shownPatterns_;
     std::vector<std::vector<int>> verlauf_;  // per series, one value per recorded step
     int cellPixels_ = 8;
-    bool stopRequested_ = false;
+    std::mt19937 rng_{std::random_device{}()};
 
     LifeView* PB1_ = nullptr;
     QTimer* timer_ = nullptr;

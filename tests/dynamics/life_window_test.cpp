@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QPixmap>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
 #include <fstream>
@@ -132,4 +133,24 @@ TEST(LifeWindow, WaTorStopsWhenTheLastSharkDies)
         w.einzelschritt();
     EXPECT_TRUE(w.statusText().startsWith("Wählerwanderungen: "));
     savePng(w, "donnelly_window.png");
+}
+
+TEST(LifeWindow, TimerRunsGenerationsUntilStopped)
+{
+    TForm14 w(nullptr, 0, -1, gameLines());
+    w.findChild<QSpinBox*>("T2")->setValue(1);
+    w.findChild<QPushButton*>("zufall")->click();
+    const int soup = w.life().population();
+    EXPECT_GT(soup, 60 * 60 / 5);
+    EXPECT_LT(soup, 60 * 60 / 2);
+    EXPECT_EQ(w.life().generation(), 0);
+    w.findChild<QPushButton*>("S1")->click();
+    EXPECT_TRUE(w.running());
+    QTest::qWait(200);
+    w.findChild<QPushButton*>("S1")->click();
+    EXPECT_FALSE(w.running());
+    const int reached = w.life().generation();
+    EXPECT_GT(reached, 0);
+    QTest::qWait(50);
+    EXPECT_EQ(w.life().generation(), reached) << "no step after stopping";
 }
