@@ -287,6 +287,7 @@ QWidget* TForm14::buildDonnellyPanel()
     text->setWordWrap(true);
     g->addWidget(text, 2, 0, 1, 3);
     g->setRowStretch(3, 1);
+    connect(gruppen_, &QSpinBox::editingFinished, this, &TForm14::S15C);
     return w;
 }
 
@@ -327,6 +328,9 @@ QWidget* TForm14::buildWaTorPanel()
     g->addWidget(text, 6, 0, 1, 3);
     g->setRowStretch(7, 1);
     connect(variante2_, &QCheckBox::toggled, this, [this] { S15C(); });
+    // a changed start setting takes effect at once
+    for (QSpinBox* f : {fischAnteil_, haiAnteil_, fischBrut_, haiBrut_, fasten_})
+        connect(f, &QSpinBox::editingFinished, this, &TForm14::S15C);
     return w;
 }
 
