@@ -19,6 +19,7 @@ enum NrWeitere {
     nQuadrat = 340,                  // centres of the side squares
     nTangential = 350, nAntikompl = 353, nEuler = 356,
     nTaylor = 360,
+    nFuhrmann = 370,
     nLot = 380,                      // scratch for the foot triangles
 };
 

@@ -414,6 +414,39 @@ void Rechner::familien()
     if (an("Antikomplementärumkreis") && gueltig[nH]) kreis(t[nH], 2 * R, kGruen);
     if (an("Antikomplementärinkreis") && rho > 0 && gueltig[nummer("Nagel-Punkt")])
         kreis(t[nummer("Nagel-Punkt")], 2 * rho, kGruen);
+    // arc midpoints of the circumcircle, on the far side of each side from its vertex; their
+    // mirror images in the sides form Fuhrmann's triangle, whose circle has diameter H - Nagel
+    if (gueltig[nU] && R > 0) {
+        Pkt f[3], bm[3];
+        for (int i = 0; i < 3; ++i) {
+            const Pkt p = E[(i + 1) % 3], q = E[(i + 2) % 3], m = t[nMa + i];
+            Pkt n{-(q - p).y, (q - p).x};
+            if (SameSide(m + n, E[i], p, q)) n = n * -1.0;
+            const double l = std::hypot(n.x, n.y);
+            bm[i] = t[nU] + n * (R / l);
+            f[i] = m * 2 - bm[i];
+        }
+        if (an("Umkreisbogen-Mittelpunkte"))
+            for (int i = 0; i < 3; ++i) {
+                punkt(bm[i], "", kGrau);
+                zeilePunkt("Umkreisbogen-Mittelpunkt", bm[i]);
+            }
+        if (an("Fuhrmann-Dreieck")) dreieck(f[0], f[1], f[2], "Fuhrmann", kRot);
+        const int nNa = nummer("Nagel-Punkt");
+        if (gueltig[nNa] && gueltig[nH]) {
+            const Pkt m = mitte(t[nH], t[nNa]);
+            const double r = abstand(t[nH], t[nNa]) / 2;
+            if (an("Fuhrmann-Kreis")) {
+                kreis(m, r, kRot);
+                zeileKreis("Fuhrmann-Kreis", m, r);
+            }
+            if (an("Fuhrmann-Kreismittelpunkt")) {
+                punkt(m, "", kRot);
+                zeilePunkt("Fuhrmann-Kreismittelpunkt", m);
+            }
+        }
+        for (int i = 0; i < 3; ++i) t.setze(nFuhrmann + i, f[i]);
+    }
     // Vecten
     if (an("Vecten-Linien"))
         for (int i = 0; i < 3; ++i) strecke(E[i], t[nQuadrat + i], kGruen);
@@ -621,7 +654,8 @@ const std::vector<std::string>& bekannteObjekte()
             "Polarkreis", "Polarkreismittelpunkt", "Tangentialdreieck-Punkte", "Tangentialdreieck SH",
             "Tangentialdreieck MP", "Umkreistangente in A", "Umkreistangente in B", "Umkreistangente in C",
             "Antikomplementär-Dreieck", "Antikomplementär-Punkte", "Antikomplementärumkreis",
-            "Antikomplementärinkreis", "Vecten-Linien", "Vecten-Dreieck", "Taylorfußpunkte", "Taylor-Kreis",
+            "Antikomplementärinkreis", "Umkreisbogen-Mittelpunkte", "Fuhrmann-Dreieck", "Fuhrmann-Kreis",
+            "Fuhrmann-Kreismittelpunkt", "Vecten-Linien", "Vecten-Dreieck", "Taylorfußpunkte", "Taylor-Kreis",
             "Taylor-Punkt", "Umkreis Dreieck ABI", "Umkreis Dreieck ACI", "Umkreis Dreieck BCI",
             "Umkreis Dreieck AHbHc", "Umkreis Dreieck BHaHc", "Umkreis Dreieck CHaHb", "Schwerpunkt ABI",
             "Schwerpunkt ACI", "Schwerpunkt BCI", "Schwerpunkt AHbHc", "Schwerpunkt BHaHc", "Schwerpunkt CHaHb",

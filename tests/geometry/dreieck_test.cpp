@@ -253,6 +253,16 @@ TEST(DreieckETC, HyperbelnDurchBekanntePunkte)
     EXPECT_GT(KegelschnittAbstand(kiepert, d.t[nI]), 1);
 }
 
+// Fuhrmann's circle is the circumcircle of Fuhrmann's triangle and has H and the Nagel point
+// as ends of a diameter.
+TEST(DreieckETC, FuhrmannKreis)
+{
+    Aufbau d(etcA(), etcB, etcC, {"Fuhrmann-Kreis"});
+    const double r = d.wert("Fuhrmann-Kreis \xE2\x80\xA6Radius") * 100;
+    const Pkt m = {(d.t[nH].x + d.t[100].x) / 2, (d.t[nH].y + d.t[100].y) / 2};
+    for (int i = 0; i < 3; ++i) EXPECT_NEAR(dist(d.t[370 + i], m), r, 1e-2) << i;
+}
+
 TEST(DreieckETC, SteinerEllipse)
 {
     Aufbau d(etcA(), etcB, etcC, {"Steiner-Ellipse"});
