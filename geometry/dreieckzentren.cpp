@@ -2,6 +2,7 @@
 #include "geometry/dreieckintern.h"
 
 #include <cmath>
+#include <cctype>
 #include <complex>
 
 namespace geo {
@@ -102,7 +103,12 @@ void Rechner::zentren()
         const Zentrum& k = kZentren[i];
         const Z z2 = dreh(z), z3 = dreh(z2);
         if (!trilinear(nZentrum0 + i, k.f(z), k.f(z2), k.f(z3))) continue;
-        zeigePunkt(k.name, nZentrum0 + i, k.farbe);
+        // a short mark beside the dot: the ordinal, then two letters of the name
+        std::string marke, n = k.name;
+        size_t j = 0;
+        if (std::isdigit(static_cast<unsigned char>(n[0]))) marke = n.substr(0, 1), j = 2;
+        marke += n.substr(j, 2);
+        zeigePunkt(k.name, nZentrum0 + i, k.farbe, marke);
     }
     // the inner and outer Soddy centres by their half-angle trilinears
     const double p = z.p, q = z.q, r = z.r;
