@@ -319,9 +319,10 @@ void Rechner::familien()
     if (an("Napoleon-Linien"))
         for (int i = 0; i < 3; ++i) strecke(E[i], t[nNapoleonAussen + i], kGruen);
     if (an("Napoleon-Dreiecke"))
+        // the equilateral triangles on the sides, whose centres make Napoleon's triangle
         for (int i = 0; i < 3; ++i) {
-            strecke(E[(i + 1) % 3], t[nNapoleonAussen + i], kGruen);
-            strecke(E[(i + 2) % 3], t[nNapoleonAussen + i], kGruen);
+            strecke(E[(i + 1) % 3], t[nFermatApex + i], kGruen);
+            strecke(E[(i + 2) % 3], t[nFermatApex + i], kGruen);
         }
     if (an("Napoleon-Dreieckumkreise"))
         for (int i = 0; i < 3; ++i) kreis(t[nNapoleonAussen + i], abstand(t[nNapoleonAussen + i], E[(i + 1) % 3]), kGruen);
