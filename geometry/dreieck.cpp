@@ -21,6 +21,7 @@ double Rechner::einheiten(double pixel) const { return pixel / (100 * ansicht.fa
 
 void Rechner::zeile(const std::string& label, const std::string& wert)
 {
+    if (!ansicht.ergebnisse) return;
     std::string l = label.empty() ? letzterLabel : label;
     letzterLabel = l;
     szene.zeilen.push_back(l + "\t" + wert);
@@ -28,6 +29,7 @@ void Rechner::zeile(const std::string& label, const std::string& wert)
 
 void Rechner::zeilePunkt(const std::string& label, Pkt p)
 {
+    if (!ansicht.ergebnisse) return;
     std::string w = xy(p);
     std::string tri;
     if (ansicht.trilinear && trilinearText(p, t[nA], t[nB], t[nC], tri)) w += " ; trilinear " + tri;
@@ -71,6 +73,7 @@ void Rechner::zeileGerade(const std::string& label, Pkt p, Pkt q)
 
 void Rechner::zeileDreieck(const std::string& name, Pkt p, Pkt q, Pkt r)
 {
+    if (!ansicht.ergebnisse) return;
     szene.zeilen.push_back(name + "-Dreieck");
     const Pkt e[3] = {p, q, r};
     for (int i = 0; i < 3; ++i) zeileGerade(name + " " + kEll + "Dreiecksseite", e[i], e[(i + 1) % 3]);

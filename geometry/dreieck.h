@@ -29,6 +29,7 @@ struct Ansicht {
     double faktor = 1;            // one unit is 100 * faktor pixels
     int breite = 1000, hoehe = 700;  // panel size, for curves drawn across it
     bool trilinear = false;       // trilinears after each point line
+    bool ergebnisse = true;       // fill the result lines (only the results page needs them)
 };
 
 struct Element {

@@ -2,6 +2,7 @@
 #include "geometry/dreieckintern.h"
 
 #include <cmath>
+#include <algorithm>
 #include <cctype>
 #include <complex>
 
@@ -588,7 +589,31 @@ void Rechner::kegelschnitte()
         for (int y = -200; y <= ansicht.hoehe + 200; ++y)
             loese(q[0], q[1] * y + q[3], q[2] * y * y + q[4] * y + q[5], false, y);
         kurve(std::move(pts), kOrange, Element::Pixel);
-        szene.zeilen.push_back(std::string(k.name) + "\t" + "durch " + std::to_string(5) + " Punkte");
+        if (!ansicht.ergebnisse) continue;
+        // the equation in the user's coordinates, and the centre of a central conic
+        Pkt e[5];
+        const double ein = 100 * ansicht.faktor;
+        for (int i = 0; i < 5; ++i) e[i] = {(p[i].x - ansicht.x0) / ein, (ansicht.y0 - p[i].y) / ein};
+        double g[6];
+        if (!Kegelschnitt5(e, g)) continue;
+        double gross = 0;
+        for (double x : g) gross = std::max(gross, std::fabs(x));
+        static const char* glied[6] = {" x²", " xy", " y²", " x", " y", ""};
+        std::string gl;
+        for (int i = 0; i < 6; ++i) {
+            const double x = g[i] / gross;
+            if (std::fabs(x) < 1e-12) continue;
+            gl += gl.empty() ? (x < 0 ? "-" : "") : (x < 0 ? " - " : " + ");
+            gl += zahl(std::fabs(x)) + glied[i];
+        }
+        zeile(std::string(k.name) + " " + kEll + "Gleichung", gl + " = 0");
+        const double disk = g[1] * g[1] - 4 * g[0] * g[2];
+        zeile(std::string(k.name) + " " + kEll + "Art", std::fabs(disk) < 1e-12 ? "Parabel" : disk > 0 ? "Hyperbel" : "Ellipse");
+        const double n = 4 * g[0] * g[2] - g[1] * g[1];
+        if (std::fabs(n) > 1e-12) {
+            const double mx = (g[1] * g[4] - 2 * g[2] * g[3]) / n, my = (g[1] * g[3] - 2 * g[0] * g[4]) / n;
+            zeile(std::string(k.name) + " " + kEll + "Mittelpunkt", "( " + zahl(mx) + " | " + zahl(my) + " )");
+        }
     }
 }
 

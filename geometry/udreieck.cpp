@@ -435,6 +435,7 @@ void TxDreieck::zeichne(platform::Canvas& c, int breite, int hoehe)
     v.breite = breite;
     v.hoehe = hoehe;
     v.trilinear = trilinear_;
+    v.ergebnisse = false;  // the drawing needs no lines; the results page asks for them
     const geo::Szene szene = geo::berechneDreieck(tab, auswahl(), v);
     for (const geo::Element& el : szene.elemente) {
         c.setPenColor(el.farbe);

@@ -263,6 +263,24 @@ TEST(DreieckETC, FuhrmannKreis)
     for (int i = 0; i < 3; ++i) EXPECT_NEAR(dist(d.t[370 + i], m), r, 1e-2) << i;
 }
 
+// The centre of Kiepert's hyperbola is X(115), trilinears (b^2 - c^2)^2 / a; Jerabek's is X(125).
+TEST(DreieckETC, KiepertZentrum)
+{
+    Aufbau d(etcA(), etcB, etcC, {"Kiepert-Hyperbel", "Kiepert-Zentrum"});
+    std::string mitte, zentrum, art;
+    for (const std::string& z : d.s.zeilen) {
+        if (z.rfind("Kiepert-Hyperbel \xE2\x80\xA6Mittelpunkt\t", 0) == 0) mitte = z.substr(z.find('\t') + 1);
+        if (z.rfind("Kiepert-Hyperbel \xE2\x80\xA6" "Art\t", 0) == 0) art = z.substr(z.find('\t') + 1);
+        if (z.rfind("Kiepert-Zentrum\t", 0) == 0) zentrum = z.substr(z.find('\t') + 1);
+    }
+    EXPECT_FALSE(mitte.empty());
+    EXPECT_EQ(mitte, zentrum);
+    EXPECT_EQ(art, "Hyperbel");
+    // X(115) lies on the nine-point circle
+    const double R = dist(d.t[nU], d.t[nA]);
+    EXPECT_NEAR(dist(d.t[100 + 42], d.t[nN]), R / 2, 1e-6);
+}
+
 TEST(DreieckETC, SteinerEllipse)
 {
     Aufbau d(etcA(), etcB, etcC, {"Steiner-Ellipse"});
