@@ -20,6 +20,7 @@ enum NrWeitere {
     nTangential = 350, nAntikompl = 353, nEuler = 356,
     nTaylor = 360,
     nFuhrmann = 370,
+    nKiepert = 375,
     nLot = 380,                      // scratch for the foot triangles
 };
 
@@ -67,6 +68,7 @@ private:
     void rekursivSoddy(std::array<double, 3> k, std::array<Pkt, 3> m, int tiefe, int& anzahl);
     void malfatti();
     void steinerEllipse();
+    void weitere();
     void kegelschnitte();
     void lotdreiecke();
 

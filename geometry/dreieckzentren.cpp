@@ -507,9 +507,131 @@ void Rechner::familien()
             }
         }
     }
+    weitere();
     soddy();
     malfatti();
     steinerEllipse();
+}
+
+void Rechner::weitere()
+{
+    const Pkt A = t[nA], B = t[nB], C = t[nC];
+    const Pkt E[3] = {A, B, C};
+    const char* kl[3] = {"a", "b", "c"};
+    // extouch points: the excircle opposite A touches BC at s - c from B
+    Pkt ex[3];
+    for (int i = 0; i < 3; ++i) {
+        const Pkt p = E[(i + 1) % 3], q = E[(i + 2) % 3];
+        const double l = abstand(p, q), d = s - abstand(E[i], p);
+        ex[i] = l == 0 ? p : p + (q - p) * (d / l);
+    }
+    if (an("Halbumfangspunkte"))
+        for (int i = 0; i < 3; ++i) {
+            punkt(ex[i], "", kRot);
+            zeilePunkt(std::string("Halbumfangspunkt auf ") + kl[i], ex[i]);
+        }
+    if (an("Nagel-Dreieck")) dreieck(ex[0], ex[1], ex[2], "Nagel", kRot);
+    if (an("Gergonne-Transversalen"))
+        for (int i = 0; i < 3; ++i) strecke(E[i], t[nKa + i], kBlau, true);
+    // symmedians: from each vertex through the Lemoine point to the opposite side
+    if (gueltig[nLemoine]) {
+        Pkt f[3];
+        bool ok = true;
+        for (int i = 0; i < 3; ++i) ok = ok && IntersectLines(E[i], t[nLemoine], E[(i + 1) % 3], E[(i + 2) % 3], f[i]);
+        if (ok && an("Symmedian-Linien"))
+            for (int i = 0; i < 3; ++i) strecke(E[i], f[i], kRot);
+        if (ok && an("Symmedian-Punkte"))
+            for (int i = 0; i < 3; ++i) {
+                punkt(f[i], "", kRot);
+                zeilePunkt(std::string("Symmedian-Punkt auf ") + kl[i], f[i]);
+            }
+        if (ok && an("Symmedian-Dreieck")) dreieck(f[0], f[1], f[2], "Symmedian", kRot);
+    }
+    // mirror images of the vertices in the opposite sides
+    Pkt sp[3];
+    for (int i = 0; i < 3; ++i) sp[i] = Lotfusspunkt(E[i], E[(i + 1) % 3], E[(i + 2) % 3]) * 2 - E[i];
+    if (an("Spiegelpunkte"))
+        for (int i = 0; i < 3; ++i) {
+            punkt(sp[i], std::string(1, "ABC"[i]) + "'", kGrau);
+            zeilePunkt(std::string("Spiegelpunkt ") + "ABC"[i] + "'", sp[i]);
+        }
+    if (an("Spiegellinien"))
+        for (int i = 0; i < 3; ++i) strecke(E[i], sp[i], kGrau, true);
+    if (an("Spiegelpunktdreieck")) dreieck(sp[0], sp[1], sp[2], "Spiegelpunkt", kGrau);
+    // points dividing the sides in 1:3 and 1:4, joined to the opposite vertices
+    for (int n : {3, 4}) {
+        const std::string punkte = "Teilungspunkte 1:" + std::to_string(n), strecken = "Teilungsstrecken 1:" + std::to_string(n);
+        if (!an(punkte) && !an(strecken)) continue;
+        for (int i = 0; i < 3; ++i) {
+            const Pkt p = E[(i + 1) % 3], q = E[(i + 2) % 3];
+            const Pkt x = p + (q - p) * (1.0 / (n + 1));
+            if (an(punkte)) {
+                punkt(x, "", kGruen);
+                zeilePunkt(punkte, x);
+            }
+            if (an(strecken)) strecke(E[i], x, kGruen);
+        }
+    }
+    // Kiepert: isosceles triangles with base angle phi on the sides; the lines from the
+    // vertices to their apexes meet in the perspector csc(A + phi) : ...
+    if (an("Kiepert-Dreieck 30°") || an("Kiepert-Linien 30°")) {
+        Pkt k[3];
+        for (int i = 0; i < 3; ++i) KiepertApex(M_PI / 6, E[(i + 1) % 3], E[(i + 2) % 3], E[i], true, k[i]);
+        if (an("Kiepert-Dreieck 30°")) dreieck(k[0], k[1], k[2], "Kiepert 30°", kOrange);
+        if (an("Kiepert-Linien 30°"))
+            for (int i = 0; i < 3; ++i) strecke(E[i], k[i], kOrange);
+    }
+    for (int vz : {1, -1}) {
+        const std::string name = vz > 0 ? "Kiepert-Punkt arctan 2" : "Kiepert-Punkt arctan -2";
+        const double phi = std::atan(2.0 * vz);
+        const int nr = vz > 0 ? nKiepert : nKiepert + 1;
+        if (trilinear(nr, 1 / std::sin(al + phi), 1 / std::sin(be + phi), 1 / std::sin(ga + phi)))
+            zeigePunkt(name, nr, kOrange);
+    }
+    // Euler lines of the part triangles
+    {
+        struct Teil { const char* name; int p, q, r; };
+        const Teil teile[] = {{"ABI", nA, nB, nI}, {"ACI", nA, nC, nI}, {"BCI", nB, nC, nI},
+                              {"AHbHc", nA, nHb, nHc}, {"BHaHc", nB, nHa, nHc}, {"CHaHb", nC, nHa, nHb}};
+        for (const Teil& d : teile) {
+            const std::string name = std::string("Euler-Gerade ") + d.name;
+            Pkt m;
+            double r;
+            if (!an(name) || !Kreis3(t[d.p], t[d.q], t[d.r], m, r)) continue;
+            const Pkt h = t[d.p] + t[d.q] + t[d.r] - m * 2;
+            if (abstand(h, m) < 1e-9) continue;
+            gerade(m, h, kLila);
+            zeileGerade(name, m, h);
+        }
+    }
+    // Conway's circle: the sides extended beyond each vertex by the opposite side
+    if (an("Conway-Kreis") || an("Conway-Punkte")) {
+        const double len[3] = {a, b, c};
+        for (int i = 0; i < 3; ++i)
+            for (int j : {1, 2}) {
+                const Pkt v = E[i], w = E[(i + j) % 3];
+                const double l = abstand(v, w);
+                if (l == 0 || !an("Conway-Punkte")) continue;
+                const Pkt x = v + (v - w) * (len[i] / l);
+                punkt(x, "", kOliv);
+                zeilePunkt("Conway-Punkt", x);
+            }
+        if (an("Conway-Kreis") && gueltig[nI]) {
+            const double r = std::sqrt(rho * rho + s * s);
+            kreis(t[nI], r, kOliv);
+            zeileKreis("Conway-Kreis", t[nI], r);
+        }
+    }
+    // Lester's circle through both Fermat points, U and N; Parry's through S and both isodynamic points
+    auto kreisDurch = [&](const char* name, int p, int q, int r) {
+        Pkt m;
+        double rr;
+        if (!an(name) || !gueltig[p] || !gueltig[q] || !gueltig[r] || !Kreis3(t[p], t[q], t[r], m, rr)) return;
+        kreis(m, rr, kLila);
+        zeileKreis(name, m, rr);
+    };
+    kreisDurch("Lester-Kreis", nummer("Fermat-Punkt"), nummer("Fermat-Punkt, äußerer"), nN);
+    kreisDurch("Parry-Kreis", nS, nummer("1.isodynamischer Punkt"), nummer("2.isodynamischer Punkt"));
 }
 
 void Rechner::steinerEllipse()
@@ -698,6 +820,13 @@ const std::vector<std::string>& bekannteObjekte()
             "Ajima-Punkt", "Ajima-Linien", "Steiner-Ellipse", "Steiner-Innenellipse", "Steiner-Ellipsenachsen",
             "Steiner-Scheitelpunkte", "Kiepert-Hyperbel", "Jerabek-Hyperbel", "Feuerbach-Hyperbel",
             "Hyperbel ABCIU", "Kegelschnitt ABHIU", "Kegelschnitt ACHIU", "Kegelschnitt BCHIU",
+            "Halbumfangspunkte", "Nagel-Dreieck", "Gergonne-Transversalen", "Symmedian-Linien",
+            "Symmedian-Punkte", "Symmedian-Dreieck", "Spiegelpunkte", "Spiegellinien", "Spiegelpunktdreieck",
+            "Teilungspunkte 1:3", "Teilungsstrecken 1:3", "Teilungspunkte 1:4", "Teilungsstrecken 1:4",
+            "Kiepert-Dreieck 30°", "Kiepert-Linien 30°", "Kiepert-Punkt arctan 2", "Kiepert-Punkt arctan -2",
+            "Euler-Gerade ABI", "Euler-Gerade ACI", "Euler-Gerade BCI", "Euler-Gerade AHbHc",
+            "Euler-Gerade BHaHc", "Euler-Gerade CHaHb", "Conway-Kreis", "Conway-Punkte", "Lester-Kreis",
+            "Parry-Kreis",
         };
         for (const char* w : weitere) v.push_back(w);
         const char* lote[] = {"Inkreis", "Umkreis", "Schwerpunkt", "Lémoine-Punkt", "Feuerbach", "Innen-Soddy",

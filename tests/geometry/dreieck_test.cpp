@@ -5,6 +5,8 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <map>
+#include <vector>
 #include <string>
 
 using namespace geo;
@@ -279,6 +281,39 @@ TEST(DreieckETC, KiepertZentrum)
     // X(115) lies on the nine-point circle
     const double R = dist(d.t[nU], d.t[nA]);
     EXPECT_NEAR(dist(d.t[100 + 42], d.t[nN]), R / 2, 1e-6);
+}
+
+// Conway's theorem, Lester's theorem, the Parry point on Parry's circle, the Kiepert perspectors
+// on Kiepert's hyperbola, and the splitters of the perimeter.
+TEST(DreieckETC, KreiseUndPunkteAusSaetzen)
+{
+    Aufbau d(etcA(), etcB, etcC,
+             {"Conway-Punkte", "Lester-Kreis", "Parry-Kreis", "Parry-Punkt", "Halbumfangspunkte", "Umkreismittelpunkt"});
+    std::vector<Pkt> conway;
+    std::map<std::string, Pkt> p;
+    for (const std::string& z : d.s.zeilen) {
+        const auto tab = z.find('\t');
+        double x, y;
+        if (tab != std::string::npos && std::sscanf(z.c_str() + tab + 1, "( %lf | %lf )", &x, &y) == 2) {
+            if (z.rfind("Conway-Punkt\t", 0) == 0) conway.push_back({x, y});
+            p[z.substr(0, tab)] = {x, y};
+        }
+    }
+    ASSERT_EQ(conway.size(), 6u);
+    const double rc = std::sqrt(20.0 / 7 + 14 * 14);  // sqrt(r^2 + s^2), s = 14
+    for (const Pkt& q : conway) EXPECT_NEAR(dist(q, d.einheit(nI)), rc, 1e-3);
+    const Pkt lester = p["Lester-Kreis \xE2\x80\xA6Mittelpunkt"];
+    EXPECT_NEAR(dist(lester, p["Umkreismittelpunkt"]), d.wert("Lester-Kreis \xE2\x80\xA6Radius"), 1e-3);
+    const Pkt parry = p["Parry-Kreis \xE2\x80\xA6Mittelpunkt"];
+    EXPECT_NEAR(dist(parry, p["Parry-Punkt"]), d.wert("Parry-Kreis \xE2\x80\xA6Radius"), 1e-3);
+    // B + its way along BC to the extouch point of a makes half the perimeter
+    EXPECT_NEAR(13 + dist(d.einheit(nB), p["Halbumfangspunkt auf a"]), 14, 1e-3);
+    EXPECT_NEAR(6 + dist(d.einheit(nC), p["Halbumfangspunkt auf b"]), 14, 1e-3);  // from B over C
+    double k[6];
+    const Pkt fuenf[5] = {d.t[nA], d.t[nB], d.t[nC], d.t[nS], d.t[nH]};
+    ASSERT_TRUE(Kegelschnitt5(fuenf, k));
+    EXPECT_LT(KegelschnittAbstand(k, d.t[375]), 1e-6);
+    EXPECT_LT(KegelschnittAbstand(k, d.t[376]), 1e-6);
 }
 
 TEST(DreieckETC, SteinerEllipse)
