@@ -6,9 +6,6 @@
 namespace geo {
 
 namespace {
-constexpr platform::TColor kGruen = 0x8000, kBlau = 0xFF0000, kGrau = 0x808080, kRot = 255,
-                           kSchwarz = 0, kLila = 0x800080, kBraun = 0x004080, kOliv = 0x008080;
-
 // Crossings of the line pq with the circle (m, r); 0, 1 or 2 points.
 int schnittKreisGerade(Pkt m, double r, Pkt p, Pkt q, Pkt out[2])
 {

@@ -24,6 +24,14 @@ enum NrWeitere {
     nLot = 380,                      // scratch for the foot triangles
 };
 
+// Colours, red in the low byte.
+constexpr platform::TColor kRot = 255, kBlau = 0xFF0000, kGruen = 0x8000, kLila = 0x800080,
+                           kBraun = 0x004080, kOliv = 0x008080, kOrange = 0x0080FF, kGrau = 0x808080,
+                           kSchwarz = 0;
+
+// Table number of a catalogued centre by its list name; 0 when there is none.
+int zentrumNummer(const std::string& name);
+
 inline const char* const kEll = "\xE2\x80\xA6";  // the ellipsis that starts a sub-label
 
 class Rechner {

@@ -333,6 +333,27 @@ TEST(DreieckETC, SteinerEllipse)
         }
 }
 
+// Foot triangles: the one of U is the medial triangle, the one of I the contact triangle.
+TEST(DreieckETC, LotDreiecke)
+{
+    Aufbau d(etcA(), etcB, etcC, {"Umkreis-Lotdreieck", "Inkreis-Lotpunkte"});
+    std::vector<double> seiten;
+    std::vector<Pkt> fuesse;
+    for (const std::string& z : d.s.zeilen) {
+        if (z.rfind("Umkreis-Lot \xE2\x80\xA6" "Dreiecksseitenl", 0) == 0) seiten.push_back(std::atof(z.c_str() + z.find('\t') + 1));
+        double x, y;
+        if (z.rfind("Inkreis \xE2\x80\xA6Lotfu", 0) == 0 &&
+            std::sscanf(z.c_str() + z.find('\t') + 1, "( %lf | %lf )", &x, &y) == 2)
+            fuesse.push_back({x, y});
+    }
+    ASSERT_EQ(seiten.size(), 3u);
+    EXPECT_NEAR(seiten[0], 3, 1e-4);
+    EXPECT_NEAR(seiten[1], 4.5, 1e-4);
+    EXPECT_NEAR(seiten[2], 6.5, 1e-4);
+    ASSERT_EQ(fuesse.size(), 3u);
+    for (int i = 0; i < 3; ++i) EXPECT_NEAR(dist(fuesse[i], d.einheit(nKa + i)), 0, 1e-4) << i;
+}
+
 TEST(DreieckRand, EntarteteDreiecke)
 {
     // two vertices on one pixel: nothing but the vertices

@@ -5,6 +5,8 @@
 #include "platform/codepage.h"
 #include "platform/container.h"
 
+#include <QCheckBox>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QRegularExpression>
@@ -84,6 +86,29 @@ TEST(DreieckFenster, OeffnetMitThemenUndErgebnissen)
     EXPECT_DOUBLE_EQ(w->streckungsfaktor(), 0.2);
     w->PB1Wheel(-120);
     EXPECT_NEAR(w->streckungsfaktor(), 0.22, 1e-12);
+
+    // a term in a field is evaluated; a faulty one gives way to the old value
+    auto* e1 = w->findChild<QLineEdit*>("E1");
+    ASSERT_NE(e1, nullptr);
+    e1->setText("1+1");
+    emit e1->editingFinished();
+    EXPECT_DOUBLE_EQ(w->ecken()[0], 2);
+    e1->setText("SIN(");
+    emit e1->editingFinished();
+    EXPECT_DOUBLE_EQ(w->ecken()[0], 2);
+    EXPECT_EQ(e1->text(), "2");
+
+    // "alle Objekte" leaves the vertices, sides and the fill as they are
+    w->setzeObjekt(QString::fromUtf8("Seite a"), false);
+    auto* c1 = w->findChild<QCheckBox*>();
+    ASSERT_NE(c1, nullptr);
+    c1->setChecked(true);
+    EXPECT_FALSE(w->auswahl().count("Seite a"));
+    EXPECT_TRUE(w->auswahl().count("Umkreis"));
+    EXPECT_TRUE(w->auswahl().count("Steiner-Ellipse"));
+    c1->setChecked(false);
+    EXPECT_FALSE(w->auswahl().count("Umkreis"));
+    EXPECT_TRUE(w->auswahl().count("Punkt A"));
 
     // the picture of a rich theme, for a look
     w->M31C("Feuerbach-Hyperbel");
