@@ -5,7 +5,9 @@
 #include "app/lint.h"
 #include "astronomy/commands.h"
 #include "crypto/commands.h"
+#include "dynamics/commands.h"
 #include "games/commands.h"
+#include "geometry/commands.h"
 #include "graphs/commands.h"
 #include "numbers/commands.h"
 #include "numbers/factor/factorcommands.h"
@@ -326,7 +328,7 @@ std::vector<quorix::HeadlessCommand> alleBefehle()
     std::vector<quorix::HeadlessCommand> alle = appCommands();
     for (auto* satz : {&kernel::kernelCommands, &quorix::termCommands, &platform::platformCommands, &crypto::cryptoCommands,
                        &::astronomyCommands, &::numbersCommands, &graphs::graphsCommands,
-                       &::factorCommands, &::gamesCommands}) {
+                       &::factorCommands, &::gamesCommands, &::dynamicsCommands, &::geometryCommands}) {
         auto mehr = satz();
         alle.insert(alle.end(), mehr.begin(), mehr.end());
     }

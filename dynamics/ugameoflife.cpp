@@ -644,6 +644,9 @@ void TForm14::PB1D(int x, int y, int width, int height)
     showState();
 }
 
-QDialog* createTForm14(QWidget* parent) { return new TForm14(parent); }
+QDialog* createTForm14(QWidget* parent, int wahlseite, int wahlpunkt)
+{
+    return new TForm14(parent, wahlseite, wahlpunkt);
+}
 
 }  // namespace dynamics

@@ -5,6 +5,6 @@ class QWidget;
 
 namespace dynamics {
 
-QDialog* createTForm14(QWidget* parent);  // tool 14, "Simulationen": Game of Life, Donnelly, Wa-Tor
+QDialog* createTForm14(QWidget* parent, int wahlseite = -1, int wahlpunkt = -1);  // tool 14, "Simulationen": Game of Life, Donnelly, Wa-Tor
 
 }  // namespace dynamics

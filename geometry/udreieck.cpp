@@ -740,4 +740,7 @@ void TxDreieck::speichereDatei()
     platform::writeTextFile(s8(pfad), aus);
 }
 
-QDialog* createTxDreieck(QWidget* parent) { return new TxDreieck(parent); }
+QDialog* createTxDreieck(QWidget* parent, int wahlseite, int wahlpunkt)
+{
+    return new TxDreieck(parent, wahlseite, wahlpunkt);
+}

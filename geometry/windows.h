@@ -3,4 +3,4 @@
 class QDialog;
 class QWidget;
 
-QDialog* createTxDreieck(QWidget* parent);  // tool 25: interactive triangle
+QDialog* createTxDreieck(QWidget* parent, int wahlseite = -1, int wahlpunkt = -1);  // tool 25: interactive triangle
