@@ -289,7 +289,9 @@ bool zeichneChaos(const Einstellung& e, int breite, int hoehe, Werteraster& rast
     case Feigenbaum: {
         const bool ok = feigenbaumDiagramm(pr, std::max(0, e.schritt), iter,
                                            [&](int s) { return !weiter || weiter(1000 * s / std::max(1, breite)); });
-        zeilen.push_back("reell\tr von " + std::to_string(e.ansicht.xmin) + " bis " + std::to_string(e.ansicht.xmax));
+        char b[96];
+        std::snprintf(b, sizeof b, "reell\tr von %g bis %g", e.ansicht.xmin, e.ansicht.xmax);
+        zeilen.push_back(b);
         zurueck();
         return ok;
     }

@@ -10,6 +10,8 @@ namespace chaos {
 namespace {
 
 constexpr double kPi = 3.14159265358979323846;
+// Densities stop short of the end of a palette, where the cyclic tables turn dark again.
+constexpr int kDichteGrenze = 200;
 
 // A small generator with a fixed sequence per seed, so pictures and tests repeat.
 struct Zufall {
@@ -108,7 +110,7 @@ bool Punktraster::treffer(double x, double y, int schritt)
         return false;
     }
     std::uint8_t& z = raster.at(static_cast<int>(bx), static_cast<int>(by));
-    z = static_cast<std::uint8_t>(std::min(255, z + schritt));
+    z = static_cast<std::uint8_t>(std::min(kDichteGrenze, z + schritt));
     ++gesetzt;
     return true;
 }
@@ -422,6 +424,22 @@ std::string simuliere(int nummer, const std::vector<double>& par, long long schr
         double x = 0, y = 0;
         int richtung = 0;
         const int dx[4] = {1, 0, -1, 0}, dy[4] = {0, 1, 0, -1};
+        {
+            // the walk drifts in no foreseeable direction: fit the view to it first
+            double x0 = 0, x1 = 0, y0 = 0, y1 = 0;
+            for (long long k = 1; k <= schritte; ++k) {
+                x += dx[richtung];
+                y += dy[richtung];
+                x0 = std::min(x0, x), x1 = std::max(x1, x), y0 = std::min(y0, y), y1 = std::max(y1, y);
+                if (istPrim(k)) richtung = (richtung + 1) % 4;
+            }
+            const double b = ziel.raster.breite, h = ziel.raster.hoehe;
+            const double s = std::max((x1 - x0 + 2) / b, (y1 - y0 + 2) / h) * 1.05;
+            const double mx = (x0 + x1) / 2, my = (y0 + y1) / 2;
+            ziel.ansicht = {mx - s * b / 2, mx + s * b / 2, my - s * h / 2, my + s * h / 2};
+            x = y = 0;
+            richtung = 0;
+        }
         for (long long k = 1; k <= schritte; ++k) {
             const double nx = x + dx[richtung], ny = y + dy[richtung];
             ziel.linie(x, y, nx, ny, static_cast<std::uint8_t>(1 + (k / 64) % 255));

@@ -23,7 +23,7 @@ struct Punktraster {
     void setzeGroesse(int b, int h) { raster.setzeGroesse(b, h); }
     // Marks (x, y) with value w by the mode; false if outside the picture.
     bool punkt(double x, double y, std::uint8_t w);
-    // Adds one hit (density colouring, saturating at 255).
+    // Adds one hit (density colouring, saturating at 200).
     bool treffer(double x, double y, int schritt = 1);
     bool pixel(int px, int py, std::uint8_t w);
     void linie(double x1, double y1, double x2, double y2, std::uint8_t w);
