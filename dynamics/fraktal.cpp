@@ -311,6 +311,15 @@ bool zoomAnsicht(const Ansicht& alt, int breite, int hoehe, int x1, int y1, int 
     return true;
 }
 
+Ansicht gleicheEinheiten(const Ansicht& a, int breite, int hoehe)
+{
+    if (breite < 1 || hoehe < 1) return a;
+    const double w = a.xmax - a.xmin, h = a.ymax - a.ymin;
+    const double einheit = std::max(w / breite, h / hoehe);
+    const double mx = (a.xmin + a.xmax) / 2, my = (a.ymin + a.ymax) / 2;
+    return {mx - einheit * breite / 2, mx + einheit * breite / 2, my - einheit * hoehe / 2, my + einheit * hoehe / 2};
+}
+
 Ansicht verschiebe(const Ansicht& a, double dx, double dy)
 {
     const double w = (a.xmax - a.xmin) * dx, h = (a.ymax - a.ymin) * dy;

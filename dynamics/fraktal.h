@@ -79,6 +79,8 @@ double zeileZuY(const Ansicht& a, int zeile, int hoehe);
 // The view of a dragged rectangle in pixels; false if it is smaller than one pixel.
 bool zoomAnsicht(const Ansicht& alt, int breite, int hoehe, int x1, int y1, int x2, int y2,
                  Ansicht& neu);
+// Widens the view about its centre so that a unit is as long across as up the picture.
+Ansicht gleicheEinheiten(const Ansicht& a, int breite, int hoehe);
 // Shifts the view by a fraction of its width (dx) and height (dy); positive dy moves up.
 Ansicht verschiebe(const Ansicht& a, double dx, double dy);
 

@@ -172,6 +172,14 @@ TEST(View, ZoomAndShift)
     EXPECT_DOUBLE_EQ(n.xmax, 1);
     EXPECT_DOUBLE_EQ(n.ymax, 0.5);
     EXPECT_DOUBLE_EQ(n.ymin, -0.5);
+    // a 4 x 2 view in a 400 x 400 picture grows to 4 x 4 about its centre; a fitting one stays
+    const Ansicht g = gleicheEinheiten(a, 400, 400);
+    EXPECT_DOUBLE_EQ(g.xmin, -2);
+    EXPECT_DOUBLE_EQ(g.ymin, -2);
+    EXPECT_DOUBLE_EQ(g.ymax, 2);
+    const Ansicht f = gleicheEinheiten(a, 400, 200);
+    EXPECT_DOUBLE_EQ(f.xmax, 2);
+    EXPECT_DOUBLE_EQ(f.ymax, 1);
     const Ansicht s = verschiebe(a, 0.25, -0.5);
     EXPECT_DOUBLE_EQ(s.xmin, -1);
     EXPECT_DOUBLE_EQ(s.xmax, 3);
