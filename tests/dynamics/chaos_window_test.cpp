@@ -1,6 +1,7 @@
 // The fractal window: it opens at its size, lists the objects of each type, draws the chosen
 // one, and zooms by a dragged rectangle.
 #include "dynamics/chaos_windows.h"
+#include "dynamics/ljapunow1.h"
 #include "dynamics/uchaos.h"
 
 #include <QPixmap>
@@ -78,4 +79,37 @@ TEST(ChaosWindow, EveryTypeHasItsListAndDraws)
     w.waehleTyp(6);
     w.d1c();
     speichere(&w, "QUORIX_PNG_FEIGENBAUM");
+}
+
+// The Lyapunov window computes by timer steps, keeps the exponents and recolours without a
+// new run.
+TEST(LyapunovWindow, ComputesAndRecolours)
+{
+    QDialog* dlg = createTFLyapunov(nullptr);
+    auto* w = qobject_cast<TFLyapunov*>(dlg);
+    ASSERT_NE(w, nullptr);
+    EXPECT_EQ(w->size(), QSize(1008, 710));
+    EXPECT_EQ(w->windowTitle(), "Quorix");
+    w->show();
+    w->waehleVorgabe(0);  // ZirconZity
+    w->waehleGroesse(1);  // 128 x 96
+    w->startC();
+    EXPECT_TRUE(w->rechnet());
+    w->pauseC();
+    EXPECT_FALSE(w->rechnet());
+    w->pauseC();
+    w->rechneBisFertig();
+    ASSERT_TRUE(w->karte().fertig());
+    EXPECT_EQ(w->karte().breite(), 128);
+    EXPECT_EQ(w->karte().hoehe(), 96);
+    const double lambda = w->karte().wert(10, 10);
+    const QRgb vorher = w->bild().image().pixel(10, 10);
+    w->waehleFarben(3);  // "Regenbogen"
+    EXPECT_EQ(w->karte().wert(10, 10), lambda) << "recolouring keeps the exponents";
+    if (lambda < 0) EXPECT_NE(w->bild().image().pixel(10, 10), vorher);
+    w->waehleFarben(0);
+    speichere(w, "QUORIX_PNG_LJAPUNOW");
+    w->zuruecksetzenC();
+    EXPECT_EQ(w->karte().breite(), 0);
+    delete dlg;
 }
