@@ -43,6 +43,9 @@ TFLyapunov::TFLyapunov(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(
 {
     FormCreate();
     waehleVorgabe(wahlpunkt >= 0 && wahlpunkt < 15 ? wahlpunkt : 0);
+    QTimer::singleShot(0, this, [this] {
+        if (map_.breite() == 0) startC();
+    });
 }
 
 void TFLyapunov::FormCreate()

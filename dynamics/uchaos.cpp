@@ -90,6 +90,10 @@ TFchaos::TFchaos(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(parent
     ladeObjekte(chaos::ladeChaosText());
     if (wahlseite >= 0 && wahlseite < 7) waehleTyp(wahlseite);
     if (wahlpunkt >= 0) waehleObjekt(wahlpunkt);
+    // the chosen object is drawn once the window is open, unless something was drawn already
+    QTimer::singleShot(0, this, [this] {
+        if (!laeuft_ && werte_.breite == 0) d1c();
+    });
 }
 
 void TFchaos::FormCreate()

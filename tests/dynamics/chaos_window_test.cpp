@@ -2,6 +2,7 @@
 // one, and zooms by a dragged rectangle.
 #include "dynamics/chaos_windows.h"
 #include "dynamics/ljapunow1.h"
+#include "dynamics/uabbildungen.h"
 #include "dynamics/uchaos.h"
 
 #include <QPixmap>
@@ -111,5 +112,30 @@ TEST(LyapunovWindow, ComputesAndRecolours)
     speichere(w, "QUORIX_PNG_LJAPUNOW");
     w->zuruecksetzenC();
     EXPECT_EQ(w->karte().breite(), 0);
+    delete dlg;
+}
+
+// The slide show turns through its list in both directions and reports unreadable files.
+TEST(SlideShow, TurnsThroughTheList)
+{
+    QDialog* dlg = createTFabbild(nullptr);
+    auto* w = qobject_cast<TFabbild*>(dlg);
+    ASSERT_NE(w, nullptr);
+    EXPECT_EQ(w->size(), QSize(1008, 710));
+    w->ladeObjekte(chaosDatei());
+    w->setzeBildliste({"Fraktal: Barnsley-Farn", "/gibt/es/nicht.png", "Fraktal: Douady-Kaninchen"});
+    w->show();
+    EXPECT_EQ(w->aktuell(), 0);
+    EXPECT_EQ(w->bild().width(), 640);
+    w->naechstes();
+    EXPECT_EQ(w->aktuell(), 1);
+    EXPECT_TRUE(w->bild().empty()) << "a missing file shows a message, not a picture";
+    w->naechstes();
+    w->naechstes();
+    EXPECT_EQ(w->aktuell(), 0) << "after the last comes the first";
+    w->vorhergehendes();
+    EXPECT_EQ(w->aktuell(), 2);
+    EXPECT_FALSE(w->bild().empty());
+    speichere(w, "QUORIX_PNG_DIA");
     delete dlg;
 }
