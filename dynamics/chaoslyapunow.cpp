@@ -125,7 +125,7 @@ platform::TColor TLyapunovLambdaMap::farbe(double l, Ljapunowfarben f, platform:
         const int g = static_cast<int>(std::min(1.0, l) * 60);
         return f == Ljapunowfarben::InverserRegenbogen ? rgb(255 - g, 255 - g, 255 - g) : rgb(g, g, g / 2);
     }
-    const double t = 1 - std::exp(l);  // 0 at the edge of chaos, towards 1 for strong order
+    const double t = 1 - std::exp(2.5 * l);  // 0 at the edge of chaos, towards 1 for strong order
     auto regenbogen = [](double u) {
         const double h = u * 300.0;  // red to violet
         const double x = 1 - std::fabs(std::fmod(h / 60.0, 2) - 1);
