@@ -27,7 +27,7 @@ std::string datenDatei() { return std::string(QUORIX_SOURCE_DIR) + "/data/texte/
 
 }  // namespace
 
-TEST(Commands, Fluchtzeit)
+TEST(ChaosCommands, Fluchtzeit)
 {
     std::string out, err;
     EXPECT_EQ(lauf("fluchtzeit", {"1", "0"}, out, err), 0);
@@ -41,7 +41,7 @@ TEST(Commands, Fluchtzeit)
     EXPECT_EQ(lauf("fluchtzeit", {"0", "0", "--variante", "20"}, out, err), 2);
 }
 
-TEST(Commands, FeigenbaumListsTheDoublings)
+TEST(ChaosCommands, FeigenbaumListsTheDoublings)
 {
     std::string out, err;
     ASSERT_EQ(lauf("feigenbaum", {"--anzahl", "3"}, out, err), 0);
@@ -58,7 +58,7 @@ TEST(Commands, FeigenbaumListsTheDoublings)
     EXPECT_EQ(lauf("feigenbaum", {"--anzahl", "0"}, out, err), 2);
 }
 
-TEST(Commands, Ljapunow)
+TEST(ChaosCommands, Ljapunow)
 {
     std::string out, err;
     ASSERT_EQ(lauf("ljapunow", {"4", "--schritte", "1000000"}, out, err), 0);
@@ -72,7 +72,7 @@ TEST(Commands, Ljapunow)
     EXPECT_EQ(lauf("ljapunow", {"5"}, out, err), 1) << "r = 5 leaves [0, 1]";
 }
 
-TEST(Commands, FraktalWritesThePicture)
+TEST(ChaosCommands, FraktalWritesThePicture)
 {
     const auto dir = std::filesystem::temp_directory_path() / "quorix_chaos_test";
     std::filesystem::create_directories(dir);

@@ -26,7 +26,7 @@ std::vector<std::string> chaosDatei()
 // Period-doubling points of x -> r x (1 - x): r1 = 3, r2 = 1 + sqrt(6), then the values
 // tabulated with the Feigenbaum constants (e.g. in Wikipedia "Feigenbaum constants": 3.4494897,
 // 3.5440903, 3.5644073, 3.5687594, 3.5696916). Tolerance 1e-6.
-TEST(Feigenbaum, PeriodDoublingPoints)
+TEST(ChaosFeigenbaum, PeriodDoublingPoints)
 {
     const double erwartet[] = {3.0, 1 + std::sqrt(6.0), 3.5440903, 3.5644073, 3.5687594, 3.5696916};
     const auto r = feigenbaumVerzweigungen(6);
@@ -44,7 +44,7 @@ TEST(Feigenbaum, PeriodDoublingPoints)
 
 // Periods of the attracting orbit inside the windows between those points, and the
 // period-3 window that opens at 1 + sqrt(8) = 3.8284.
-TEST(Feigenbaum, PeriodsBetweenTheDoublings)
+TEST(ChaosFeigenbaum, PeriodsBetweenTheDoublings)
 {
     EXPECT_EQ(logistikPeriode(2.8), 1);
     EXPECT_EQ(logistikPeriode(3.2), 2);
@@ -54,7 +54,7 @@ TEST(Feigenbaum, PeriodsBetweenTheDoublings)
     EXPECT_EQ(logistikPeriode(4.0), 0) << "r = 4 is chaotic";
 }
 
-TEST(Feigenbaum, DiagramShowsOneBranchThenTwo)
+TEST(ChaosFeigenbaum, DiagramShowsOneBranchThenTwo)
 {
     Punktraster p;
     p.ansicht = {2.5, 3.4, 0, 1};
@@ -73,7 +73,7 @@ TEST(Feigenbaum, DiagramShowsOneBranchThenTwo)
 // The Lyapunov exponent of the logistic map at r = 4 is ln 2 (Ott, Chaos in Dynamical
 // Systems; the map is conjugate to the tent map). Tolerance 0.01 for 10^6 steps.
 // At r = 2.5 the fixed point has multiplier 2 - r, so the exponent is ln 0.5.
-TEST(Lyapunov, LogisticMapKnownValues)
+TEST(ChaosLyapunov, LogisticMapKnownValues)
 {
     const double l4 = logistikLjapunow(4.0, 1000, 1000000);
     EXPECT_NEAR(l4, std::log(2.0), 0.01) << "expected " << std::log(2.0) << ", got " << l4;
@@ -84,7 +84,7 @@ TEST(Lyapunov, LogisticMapKnownValues)
     EXPECT_NEAR(ljapunowExponent("ab", 3.3, 3.3, 1000, 10000), logistikLjapunow(3.3, 1000, 10000), 1e-12);
 }
 
-TEST(Lyapunov, PresetsAndExponentMap)
+TEST(ChaosLyapunov, PresetsAndExponentMap)
 {
     const auto& z = ljapunowVorgabezeilen();
     ASSERT_EQ(z.size(), 15u);
@@ -121,7 +121,7 @@ TEST(Lyapunov, PresetsAndExponentMap)
 
 // Barnsley's fern lies in -2.1820 < x < 2.6558, 0 <= y < 9.9983 (Barnsley, Fractals
 // Everywhere; the box quoted with the code in Wikipedia "Barnsley fern"). Tolerance 1e-3.
-TEST(Ifs, FernStaysInItsPublishedBox)
+TEST(ChaosIfs, FernStaysInItsPublishedBox)
 {
     const auto maps = leseIfs({"0 0 0 0.16 0 0 0.01", "0.85 0.04 -0.04 0.85 0 1.6 0.85",
                                "0.2 -0.26 0.23 0.22 0 1.6 0.07", "-0.15 0.28 0.26 0.24 0 0.44 0.07"});
@@ -137,7 +137,7 @@ TEST(Ifs, FernStaysInItsPublishedBox)
     EXPECT_GT(r.ymax, 9.8);
 }
 
-TEST(Ifs, SierpinskiTriangleAndCodeReading)
+TEST(ChaosIfs, SierpinskiTriangleAndCodeReading)
 {
     // comma decimals, no probabilities: equal areas give equal shares
     const auto maps = leseIfs({"0,5 0 0 0,5 0 0", "0.5 0 0 0.5 0.5 0", "0.5 0 0 0.5 0.25 0.5", "kein Code"});
@@ -158,7 +158,7 @@ TEST(Ifs, SierpinskiTriangleAndCodeReading)
     EXPECT_EQ(leseIfs(neun).size(), 8u) << "at most eight maps";
 }
 
-TEST(Raster, DrawingModes)
+TEST(ChaosRaster, DrawingModes)
 {
     Punktraster p;
     p.ansicht = {0, 10, 0, 10};
@@ -181,7 +181,7 @@ TEST(Raster, DrawingModes)
 
 // The Henon attractor (a = 1.4, b = 0.3) lies within |x| < 1.3, |y| < 0.4; the Lorenz
 // attractor (10, 28, 8/3) has 0 < z < 50 and |x| < 21.
-TEST(Systems, AttractorsStayInTheirKnownRegions)
+TEST(ChaosSystems, AttractorsStayInTheirKnownRegions)
 {
     Systemcode c;
     ASSERT_TRUE(leseSystemcode("Henon 1.4 0.3", c));
@@ -213,7 +213,7 @@ TEST(Systems, AttractorsStayInTheirKnownRegions)
     EXPECT_FALSE(leseSystemcode("unbekannt 1 2", c));
 }
 
-TEST(Circles, CountAndTangency)
+TEST(ChaosCircles, CountAndTangency)
 {
     const auto k = kreisfraktal(4, 0.4, 3, false);
     EXPECT_EQ(k.size(), 1u + 4 + 16 + 64);
@@ -225,7 +225,7 @@ TEST(Circles, CountAndTangency)
     EXPECT_NEAR(std::hypot(innen[1].x - innen[2].x, innen[1].y - innen[2].y), 2.0 / 3, 1e-12);
 }
 
-TEST(Simulations, RandomWalkDistanceAndPrimeSpiral)
+TEST(ChaosSimulations, RandomWalkDistanceAndPrimeSpiral)
 {
     Punktraster p;
     p.ansicht = {-100, 100, -100, 100};

@@ -84,7 +84,7 @@ TEST(ChaosWindow, EveryTypeHasItsListAndDraws)
 
 // The Lyapunov window computes by timer steps, keeps the exponents and recolours without a
 // new run.
-TEST(LyapunovWindow, ComputesAndRecolours)
+TEST(ChaosLyapunovWindow, ComputesAndRecolours)
 {
     QDialog* dlg = createTFLyapunov(nullptr);
     auto* w = qobject_cast<TFLyapunov*>(dlg);
@@ -116,7 +116,7 @@ TEST(LyapunovWindow, ComputesAndRecolours)
 }
 
 // The slide show turns through its list in both directions and reports unreadable files.
-TEST(SlideShow, TurnsThroughTheList)
+TEST(ChaosSlideShow, TurnsThroughTheList)
 {
     QDialog* dlg = createTFabbild(nullptr);
     auto* w = qobject_cast<TFabbild*>(dlg);

@@ -22,7 +22,7 @@ int gesetzt(const Werteraster& r)
 
 // Diffusion-limited aggregation only sticks a particle next to the cluster, so the cluster is
 // 4-connected: every marked pixel but the seed has a marked neighbour.
-TEST(Simulations, DiffusionClusterIsConnected)
+TEST(ChaosSimulations, DiffusionClusterIsConnected)
 {
     Punktraster p;
     p.ansicht = {-1, 1, -1, 1};
@@ -44,7 +44,7 @@ TEST(Simulations, DiffusionClusterIsConnected)
 
 // The chaos game with 3 corners and factor 1/2 draws the Sierpinski triangle: no point falls
 // into the middle hole, which is the triangle of the side midpoints.
-TEST(Simulations, ChaosGameAvoidsTheMiddleTriangle)
+TEST(ChaosSimulations, ChaosGameAvoidsTheMiddleTriangle)
 {
     Punktraster p;
     p.ansicht = {-1.1, 1.1, -1.1, 1.1};
@@ -60,7 +60,7 @@ TEST(Simulations, ChaosGameAvoidsTheMiddleTriangle)
     EXPECT_GT(gesetzt(p.raster), 3000);
 }
 
-TEST(Circles, InnerCirclesStayInsideTheirParent)
+TEST(ChaosCircles, InnerCirclesStayInsideTheirParent)
 {
     const auto k = kreisfraktal(3, 2 * std::sqrt(3.0) - 3, 3, true);
     ASSERT_EQ(k.size(), 1u + 3 + 9 + 27);
@@ -71,7 +71,7 @@ TEST(Circles, InnerCirclesStayInsideTheirParent)
         << "the depth is limited to 8";
 }
 
-TEST(Drawing, IfsMapFilterAndModes)
+TEST(ChaosDrawing, IfsMapFilterAndModes)
 {
     Einstellung e;
     e.typ = IfsEditor;
@@ -95,7 +95,7 @@ TEST(Drawing, IfsMapFilterAndModes)
     EXPECT_LT(gesetzt(eine), gesetzt(alle));
 }
 
-TEST(Drawing, UnusableSettingsSayWhy)
+TEST(ChaosDrawing, UnusableSettingsSayWhy)
 {
     Werteraster r;
     std::vector<std::string> z;
@@ -125,7 +125,7 @@ TEST(Drawing, UnusableSettingsSayWhy)
     EXPECT_EQ(z.back(), "Die Bahn läuft ins Unendliche");
 }
 
-TEST(Drawing, ProgressCanStopEveryKind)
+TEST(ChaosDrawing, ProgressCanStopEveryKind)
 {
     for (int typ : {Mandelbrot, Julia, IfsEditor, IterativeSysteme, Feigenbaum}) {
         Einstellung e;
@@ -148,7 +148,7 @@ TEST(Drawing, ProgressCanStopEveryKind)
 
 // With a = b every preset sequence is the plain logistic map, so the diagonal of
 // "LyapunovSpace" (a and b from 2 to 4) repeats the exponents of x -> r x (1 - x).
-TEST(Lyapunov, DiagonalOfTheSquarePresetIsTheLogisticMap)
+TEST(ChaosLyapunov, DiagonalOfTheSquarePresetIsTheLogisticMap)
 {
     LjapunowVorgabe v;
     ASSERT_TRUE(leseLjapunowVorgabe(ljapunowVorgabezeilen()[3], v));

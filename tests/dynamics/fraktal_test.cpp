@@ -11,7 +11,7 @@ using namespace chaos;
 
 // Points whose orbits under z -> z^2 + c are known by hand: 0 is fixed, -1 has period 2,
 // -2 lands on the fixed point 2, i is preperiodic (i, -1+i, -i, -1+i, ...).
-TEST(Mandelbrot, KnownPointsInsideStayBounded)
+TEST(FraktalMandelbrot, KnownPointsInsideStayBounded)
 {
     const std::pair<double, double> innen[] = {{0, 0}, {-1, 0}, {-2, 0}, {0, 1}, {0.25, 0}, {-0.123, 0.745}};
     for (auto [a, b] : innen) {
@@ -22,7 +22,7 @@ TEST(Mandelbrot, KnownPointsInsideStayBounded)
 }
 
 // Escape counts from the orbit of 0 worked by hand: the step at which |z|^2 first exceeds 9.
-TEST(Mandelbrot, EscapeCountsOfSimplePoints)
+TEST(FraktalMandelbrot, EscapeCountsOfSimplePoints)
 {
     struct Fall {
         double a, b;
@@ -47,7 +47,7 @@ TEST(Mandelbrot, EscapeCountsOfSimplePoints)
 
 // For c = 0 the Julia set is the unit circle: inside stays, outside escapes at the step
 // where 1.1^(2^(n+1)) passes 9, that is n = 4.
-TEST(Julia, UnitCircleForCZero)
+TEST(FraktalJulia, UnitCircleForCZero)
 {
     EXPECT_FALSE(iteriere(10, 0.9, 0.3, 0, 0, 2000).entkommen);
     const Flucht f = iteriere(10, 1.1, 0, 0, 0, 2000);
@@ -58,7 +58,7 @@ TEST(Julia, UnitCircleForCZero)
 }
 
 // The written-out powers against complex multiplication on a grid of parameters.
-TEST(Variants, PowerExpansionsMatchComplexArithmetic)
+TEST(FraktalVariants, PowerExpansionsMatchComplexArithmetic)
 {
     for (int v = 1; v <= 6; ++v) {
         const int grad = v == 6 ? 8 : v + 2;
@@ -85,7 +85,7 @@ TEST(Variants, PowerExpansionsMatchComplexArithmetic)
 }
 
 // z^d + c has (d-1)-fold rotational symmetry; z^2 + c and its relatives are mirror symmetric.
-TEST(Variants, Symmetries)
+TEST(FraktalVariants, Symmetries)
 {
     const double pi = 3.14159265358979323846;
     for (int v : {1, 2, 3, 4}) {
@@ -103,7 +103,7 @@ TEST(Variants, Symmetries)
             EXPECT_EQ(mandelbrotFlucht(v, a, 0.37, 80).schritte, mandelbrotFlucht(v, a, -0.37, 80).schritte) << v;
 }
 
-TEST(Variants, EveryListedVariantHasANameAndDrawsSomething)
+TEST(FraktalVariants, EveryListedVariantHasANameAndDrawsSomething)
 {
     std::set<std::string> namen;
     for (int v : fluchtvarianten()) {
@@ -123,7 +123,7 @@ TEST(Variants, EveryListedVariantHasANameAndDrawsSomething)
     EXPECT_FALSE(istFluchtvariante(20));
 }
 
-TEST(Colouring, IndexRules)
+TEST(FraktalColouring, IndexRules)
 {
     Flucht raus{3, true, 5};
     EXPECT_EQ(farbindex(raus, 100, false), 300 % 256);
@@ -140,7 +140,7 @@ TEST(Colouring, IndexRules)
     for (auto w : r.werte) ASSERT_EQ(w, 0);
 }
 
-TEST(Raster, RowsRunBottomUpAndCanBeStopped)
+TEST(ChaosRaster, RowsRunBottomUpAndCanBeStopped)
 {
     Werteraster r;
     r.setzeGroesse(32, 24);
@@ -162,7 +162,7 @@ TEST(Raster, RowsRunBottomUpAndCanBeStopped)
     EXPECT_EQ(r.at(0, 0), 2);  // c, then c^2 + c = 1.2 - 4.08i
 }
 
-TEST(View, ZoomAndShift)
+TEST(ChaosView, ZoomAndShift)
 {
     const Ansicht a{-2, 2, -1, 1};
     Ansicht n;
@@ -187,7 +187,7 @@ TEST(View, ZoomAndShift)
     EXPECT_DOUBLE_EQ(s.ymax, 0);
 }
 
-TEST(Palettes, NamesTablesAndRotation)
+TEST(FraktalPalettes, NamesTablesAndRotation)
 {
     const auto& n = palettennamen();
     EXPECT_EQ(n.size(), 43u);
