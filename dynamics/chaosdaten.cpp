@@ -192,8 +192,9 @@ std::string punktzahlText(double n)
 }
 
 bool zeichneChaos(const Einstellung& e, int breite, int hoehe, Werteraster& raster, std::vector<std::string>& zeilen,
-                  const Anteil& weiter)
+                  const Anteil& weiter, Ansicht* benutzt)
 {
+    if (benutzt) *benutzt = e.ansicht;
     raster.setzeGroesse(breite, hoehe);
     zeilen.clear();
     const int iter = std::clamp(e.iterationen, std::max(1, e.iterMin), std::max(1, e.iterMax));
@@ -271,6 +272,7 @@ bool zeichneChaos(const Einstellung& e, int breite, int hoehe, Werteraster& rast
         std::vector<double> par;
         for (const auto& f : e.parameter) par.push_back(f.wert);
         const std::string z = simuliere(e.variante, par, punkte, e.keim, pr, [&](long long i) { return anteil(i); });
+        if (benutzt) *benutzt = pr.ansicht;
         if (z.empty()) zeilen.push_back("Unbekannte Simulation");
         else zeilen.push_back(z);
         zurueck();

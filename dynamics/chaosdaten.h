@@ -67,9 +67,10 @@ Einstellung einstellungAus(const ChaosObjekt& o);
 using Anteil = std::function<bool(int promille)>;
 
 // Draws the setting into a raster of the given size; `zeilen` gets the result lines.
-// False if stopped or the setting is unusable (then `zeilen` says why).
+// False if stopped or the setting is unusable (then `zeilen` says why). A routine that fits
+// its view to what it draws (the prime walk) reports that view in `benutzt`.
 bool zeichneChaos(const Einstellung& e, int breite, int hoehe, Werteraster& raster,
-                  std::vector<std::string>& zeilen, const Anteil& weiter = {});
+                  std::vector<std::string>& zeilen, const Anteil& weiter = {}, Ansicht* benutzt = nullptr);
 
 // "%.2f Md." / "%.0f Mill." / plain count, as the point counts are shown.
 std::string punktzahlText(double n);

@@ -438,7 +438,8 @@ void TFchaos::d1c()
             QApplication::processEvents();
         }
         return !stopp_;
-    });
+    }, &e_.ansicht);
+    felderSchreiben();
     zeitMs_ = static_cast<double>(uhr.nsecsElapsed()) / 1e6;
     laeuft_ = false;
     D1_->setText("Darstellung");

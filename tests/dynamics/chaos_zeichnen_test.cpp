@@ -60,6 +60,28 @@ TEST(ChaosSimulations, ChaosGameAvoidsTheMiddleTriangle)
     EXPECT_GT(gesetzt(p.raster), 3000);
 }
 
+// The prime walk fits the view to its path: every step lands inside the picture.
+TEST(ChaosSimulations, PrimeWalkFitsItsView)
+{
+    Einstellung e;
+    e.typ = Simulationen;
+    e.variante = 4;
+    e.punkte = 5000;
+    e.ansicht = {-1, 1, -1, 1};
+    Werteraster r;
+    std::vector<std::string> z;
+    Ansicht benutzt;
+    ASSERT_TRUE(zeichneChaos(e, 200, 150, r, z, {}, &benutzt));
+    EXPECT_EQ(z.front(), "Primzahlfraktal bis 5000");
+    EXPECT_GT(benutzt.xmax - benutzt.xmin, 10) << "the walk of 5000 steps is wider than the first view";
+    EXPECT_NEAR((benutzt.xmax - benutzt.xmin) / 200, (benutzt.ymax - benutzt.ymin) / 150, 1e-9) << "equal units";
+    Punktraster p;
+    p.ansicht = {-1, 1, -1, 1};
+    p.setzeGroesse(200, 150);
+    simuliere(4, {}, 5000, 1, p);
+    EXPECT_EQ(p.daneben, 0);
+}
+
 TEST(ChaosCircles, InnerCirclesStayInsideTheirParent)
 {
     const auto k = kreisfraktal(3, 2 * std::sqrt(3.0) - 3, 3, true);
