@@ -323,6 +323,7 @@ void TFchaos::neuwert()
 {
     const int r = LB1_->currentRow();
     if (r < 0 || r >= static_cast<int>(liste_.size())) return;
+    if (laeuft_) stopp_ = true;  // a new object ends the running picture
     const chaos::ChaosObjekt& o = *liste_[static_cast<std::size_t>(r)];
     e_ = chaos::einstellungAus(o);
     QStringList text;
@@ -429,7 +430,10 @@ void TFchaos::d1c()
     uhr.start();
     anzeige.start();
     ++e_.keim;
-    const bool ok = chaos::zeichneChaos(e_, b, h, werte_, zeilen_, [&](int promille) {
+    // a copy: the list stays usable while the picture grows, and may change e_
+    const chaos::Einstellung lauf = e_;
+    chaos::Ansicht benutzt = lauf.ansicht;
+    const bool ok = chaos::zeichneChaos(lauf, b, h, werte_, zeilen_, [&](int promille) {
         if (anzeige.elapsed() > 300) {
             // show what is done so far and let "Stopp" be pressed
             anzeige.restart();
@@ -438,8 +442,11 @@ void TFchaos::d1c()
             QApplication::processEvents();
         }
         return !stopp_;
-    }, &e_.ansicht);
-    felderSchreiben();
+    }, &benutzt);
+    if (ok) {
+        e_.ansicht = benutzt;
+        felderSchreiben();
+    }
     zeitMs_ = static_cast<double>(uhr.nsecsElapsed()) / 1e6;
     laeuft_ = false;
     D1_->setText("Darstellung");
