@@ -336,6 +336,8 @@ const std::vector<Simulation>& simulationen()
     static const std::vector<Simulation> s = {
         {1, "Chaos-Spiel im Vieleck"}, {2, "Irrfahrt"},        {3, "Cluster durch Diffusion"},
         {4, "Primzahlfraktal"},        {5, "Ulam-Spirale"},    {6, "Brownsche Bewegung"},
+        {7, "Eden-Wachstum"},          {8, "Perkolation"},     {9, "Sandhaufen"},
+        {10, "Lévy-Flug"},
     };
     return s;
 }
@@ -449,6 +451,107 @@ std::string simuliere(int nummer, const std::vector<double>& par, long long schr
             if (!pause(k)) break;
         }
         out << "Primzahlfraktal bis " << schritte;
+        return out.str();
+    }
+    case 7: {  // Eden growth: a random free neighbour of a random cluster cell joins
+        Werteraster& r = ziel.raster;
+        const int b = r.breite, h = r.hoehe;
+        std::vector<std::pair<int, int>> zellen = {{b / 2, h / 2}};
+        r.at(b / 2, h / 2) = 1;
+        const int dx[4] = {1, -1, 0, 0}, dy[4] = {0, 0, 1, -1};
+        for (long long i = 0; i < schritte; ++i) {
+            const auto [x, y] = zellen[static_cast<std::size_t>(z.bis(static_cast<int>(zellen.size())))];
+            const int k = z.bis(4), nx = x + dx[k], ny = y + dy[k];
+            if (nx < 0 || ny < 0 || nx >= b || ny >= h || r.at(nx, ny)) continue;
+            r.at(nx, ny) = static_cast<std::uint8_t>(1 + (zellen.size() / 40) % 199);
+            zellen.emplace_back(nx, ny);
+            if (!pause(i)) break;
+        }
+        ziel.gesetzt = static_cast<long long>(zellen.size());
+        out << "Cluster " << zellen.size() << " Teilchen";
+        return out.str();
+    }
+    case 8: {  // site percolation: occupied with probability p, the largest cluster marked
+        Werteraster& r = ziel.raster;
+        const int b = r.breite, h = r.hoehe;
+        const double p = std::clamp(arg(0, 0.5927), 0.0, 1.0);
+        for (auto& w : r.werte) w = z.gleich() < p ? 1 : 0;
+        std::vector<int> marke(r.werte.size(), -1), stapel;
+        int groesste = -1;
+        std::size_t groesse = 0;
+        int nummer = 0;
+        for (std::size_t s = 0; s < r.werte.size(); ++s) {
+            if (!r.werte[s] || marke[s] >= 0) continue;
+            std::size_t n = 0;
+            stapel.assign(1, static_cast<int>(s));
+            marke[s] = nummer;
+            while (!stapel.empty()) {
+                const int c = stapel.back();
+                stapel.pop_back();
+                ++n;
+                const int x = c % b, y = c / b;
+                const int nb[4] = {x > 0 ? c - 1 : -1, x < b - 1 ? c + 1 : -1, y > 0 ? c - b : -1, y < h - 1 ? c + b : -1};
+                for (int q : nb)
+                    if (q >= 0 && r.werte[static_cast<std::size_t>(q)] && marke[static_cast<std::size_t>(q)] < 0) {
+                        marke[static_cast<std::size_t>(q)] = nummer;
+                        stapel.push_back(q);
+                    }
+            }
+            if (n > groesse) groesse = n, groesste = nummer;
+            ++nummer;
+        }
+        for (std::size_t s = 0; s < r.werte.size(); ++s)
+            if (r.werte[s]) r.werte[s] = marke[s] == groesste ? 180 : 60;
+        ziel.gesetzt = static_cast<long long>(groesse);
+        out << "Cluster " << groesse << " Felder, " << nummer << " Cluster";
+        return out.str();
+    }
+    case 9: {  // abelian sandpile: grains on the centre, a site with 4 gives one to each neighbour
+        Werteraster& r = ziel.raster;
+        const int b = r.breite, h = r.hoehe;
+        std::vector<long long> hoehe(static_cast<std::size_t>(b) * h, 0);
+        const std::size_t mitte = static_cast<std::size_t>(h / 2) * b + b / 2;
+        hoehe[mitte] = schritte;
+        std::vector<std::size_t> stapel = {mitte};
+        long long verloren = 0, kippen = 0;
+        while (!stapel.empty()) {
+            const std::size_t c = stapel.back();
+            stapel.pop_back();
+            if (hoehe[c] < 4) continue;
+            const long long k = hoehe[c] / 4;
+            hoehe[c] -= 4 * k;
+            kippen += k;
+            const int x = static_cast<int>(c % b), y = static_cast<int>(c / b);
+            const int nx[4] = {x - 1, x + 1, x, x}, ny[4] = {y, y, y - 1, y + 1};
+            for (int j = 0; j < 4; ++j) {
+                if (nx[j] < 0 || ny[j] < 0 || nx[j] >= b || ny[j] >= h) {
+                    verloren += k;  // grains fall off the edge
+                    continue;
+                }
+                const std::size_t q = static_cast<std::size_t>(ny[j]) * b + nx[j];
+                hoehe[q] += k;
+                if (hoehe[q] >= 4) stapel.push_back(q);
+            }
+            if (weiter && (kippen & 0xFFFF) == 0 && !weiter(0)) break;
+        }
+        for (std::size_t s = 0; s < hoehe.size(); ++s) r.werte[s] = static_cast<std::uint8_t>(hoehe[s] * 60);
+        ziel.gesetzt = schritte - verloren;
+        out << "Körner " << (schritte - verloren) << ", über den Rand " << verloren;
+        return out.str();
+    }
+    case 10: {  // Levy flight: uniform directions, step lengths with a power-law tail
+        const double alpha = std::clamp(arg(0, 1.5), 0.3, 3.0);
+        double x = 0, y = 0;
+        for (long long i = 0; i < schritte; ++i) {
+            const double l = std::min(1e6, std::pow(std::max(z.gleich(), 1e-12), -1.0 / alpha));
+            const double w = 2 * kPi * z.gleich();
+            const double nx = x + l * std::cos(w), ny = y + l * std::sin(w);
+            ziel.linie(x, y, nx, ny, static_cast<std::uint8_t>(1 + (i * 199) / std::max<long long>(1, schritte)));
+            x = nx;
+            y = ny;
+            if (!pause(i)) break;
+        }
+        out << "Distanz " << std::sqrt(x * x + y * y);
         return out.str();
     }
     case 5: {  // numbers on a square spiral, primes marked

@@ -187,3 +187,49 @@ TEST(ChaosLyapunov, DiagonalOfTheSquarePresetIsTheLogisticMap)
     // r = 2.0625 (first column) lies in the fixed-point region: order
     EXPECT_LT(m.wert(0, 15), 0);
 }
+
+// The abelian sandpile keeps every grain until one falls off the edge; a stable pile has
+// heights 0 to 3 and the fourfold symmetry of the grid.
+TEST(ChaosSimulations, SandpileConservesGrainsAndIsSymmetric)
+{
+    Punktraster p;
+    p.ansicht = {-1, 1, -1, 1};
+    p.setzeGroesse(101, 101);
+    EXPECT_EQ(simuliere(9, {}, 10000, 1, p), "Körner 10000, über den Rand 0");
+    long long summe = 0;
+    for (int y = 0; y < 101; ++y)
+        for (int x = 0; x < 101; ++x) {
+            const int hoehe = p.raster.at(x, y) / 60;
+            ASSERT_LE(hoehe, 3);
+            ASSERT_EQ(p.raster.at(x, y) % 60, 0);
+            summe += hoehe;
+            EXPECT_EQ(p.raster.at(x, y), p.raster.at(100 - x, y));
+            EXPECT_EQ(p.raster.at(x, y), p.raster.at(y, x));
+        }
+    EXPECT_EQ(summe, 10000);
+    Punktraster klein;
+    klein.ansicht = {-1, 1, -1, 1};
+    klein.setzeGroesse(5, 5);
+    const std::string z = simuliere(9, {}, 1000, 1, klein);
+    EXPECT_NE(z.find("über den Rand"), std::string::npos);
+    EXPECT_NE(z, "Körner 1000, über den Rand 0") << "a 5 x 5 grid cannot hold 1000 grains";
+}
+
+// With p = 1 every site is occupied and forms one cluster; with p = 0 nothing is.
+TEST(ChaosSimulations, PercolationExtremes)
+{
+    Punktraster p;
+    p.ansicht = {-1, 1, -1, 1};
+    p.setzeGroesse(40, 30);
+    EXPECT_EQ(simuliere(8, {1.0}, 1, 1, p), "Cluster 1200 Felder, 1 Cluster");
+    EXPECT_EQ(simuliere(8, {0.0}, 1, 1, p), "Cluster 0 Felder, 0 Cluster");
+    // Eden growth adds only neighbours: the cluster is 4-connected and counted right
+    Punktraster e;
+    e.ansicht = {-1, 1, -1, 1};
+    e.setzeGroesse(60, 60);
+    const std::string z = simuliere(7, {}, 20000, 3, e);
+    int zellen = 0;
+    for (auto w : e.raster.werte) zellen += w != 0;
+    EXPECT_EQ(z, "Cluster " + std::to_string(zellen) + " Teilchen");
+    EXPECT_GT(zellen, 500);
+}
