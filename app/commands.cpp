@@ -5,6 +5,7 @@
 #include "app/lint.h"
 #include "astronomy/commands.h"
 #include "crypto/commands.h"
+#include "dynamics/chaos_commands.h"
 #include "dynamics/commands.h"
 #include "games/commands.h"
 #include "geometry/commands.h"
@@ -328,7 +329,7 @@ std::vector<quorix::HeadlessCommand> alleBefehle()
     std::vector<quorix::HeadlessCommand> alle = appCommands();
     for (auto* satz : {&kernel::kernelCommands, &quorix::termCommands, &platform::platformCommands, &crypto::cryptoCommands,
                        &::astronomyCommands, &::numbersCommands, &graphs::graphsCommands,
-                       &::factorCommands, &::gamesCommands, &::dynamicsCommands, &::geometryCommands}) {
+                       &::factorCommands, &::gamesCommands, &::dynamicsCommands, &::chaosCommands, &::geometryCommands}) {
         auto mehr = satz();
         alle.insert(alle.end(), mehr.begin(), mehr.end());
     }

@@ -2,6 +2,7 @@
 
 #include "astronomy/windows.h"
 #include "crypto/windows.h"
+#include "dynamics/chaos_windows.h"
 #include "dynamics/windows.h"
 #include "games/windows.h"
 #include "geometry/windows.h"
@@ -56,7 +57,7 @@ const std::vector<WerkzeugEintrag>& werkzeugtabelle()
     static const std::vector<WerkzeugEintrag> tabelle = [] {
         std::vector<WerkzeugEintrag> t = {
             {2, A::A, "TFInter", {}},       {3, A::A, "TFAnalysis", {}},   {4, A::C, "TFGraph", graphs::createTFGraph},
-            {5, A::A, "TFabbild", {}},      {6, A::A, "TFchaos", {}},      {7, A::B, "TFnumer", {}},
+            {5, A::A, "TFabbild", mitSeite(::createTFabbild)}, {6, A::A, "TFchaos", mitSeite(::createTFchaos)},      {7, A::B, "TFnumer", {}},
             {8, A::A, "TFalgebra", {}},     {9, A::A, "TFkalend", mitSeite(::createTFkalend)},     {10, A::A, "Tf2048", {}},
             {11, A::A, "TFpoly", {}},       {12, A::A, "TFintegra", {}},   {13, A::A, "TForm13", {}},
             {14, A::A, "TForm14", mitSeite(dynamics::createTForm14)},      {15, A::A, "TFphy", {}},       {16, A::A, "TForm16", {}},
@@ -83,7 +84,7 @@ const std::vector<WerkzeugEintrag>& werkzeugtabelle()
             {77, A::A, "Ttspform", {}},     {78, A::A, "Tf11bezier", {}},  {79, A::B, "Tfnform", {}},
             {80, A::D, "Trechla", ::createTrechla},      {81, A::A, "TForm10", {}},     {82, A::A, "Tvexed", {}},
             {83, A::A, "Tfsudoku", {}},     {84, A::E, "quorixt.exe", {}}, {85, A::A, "Tpentoform", {}},
-            {86, A::A, "TFRipple", {}},     {87, A::A, "TForm31", {}},     {88, A::B, "TFLyapunov", {}},
+            {86, A::A, "TFRipple", {}},     {87, A::A, "TForm31", {}},     {88, A::B, "TFLyapunov", mitSeite(::createTFLyapunov)},
             {89, A::B, "Tfplot3d", {}},     {90, A::D, "Trechko", {}},     {91, A::E, "quorixc.exe", {}},
             {92, A::B, "Tztetris", {}},     {93, A::A, "Tfvier2", {}},     {94, A::A, "Tfbruch", {}},
             {95, A::A, "TFGraf", {}},       {96, A::A, "TFMus", {}},       {97, A::D, "TOpBox", ::createTOpBox},

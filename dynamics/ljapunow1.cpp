@@ -314,4 +314,7 @@ void TFLyapunov::zeichne(platform::Canvas& c, int breite, int hoehe)
                                                                       (v.folge.size() > 24 ? "..." : "") + ")"));
 }
 
-QDialog* createTFLyapunov(QWidget* parent) { return new TFLyapunov(parent); }
+QDialog* createTFLyapunov(QWidget* parent, int wahlseite, int wahlpunkt)
+{
+    return new TFLyapunov(parent, wahlseite, wahlpunkt);
+}

@@ -204,4 +204,7 @@ void TFabbild::laden(const QString& eintrag)
     PB1_->update();
 }
 
-QDialog* createTFabbild(QWidget* parent) { return new TFabbild(parent); }
+QDialog* createTFabbild(QWidget* parent, int wahlseite, int wahlpunkt)
+{
+    return new TFabbild(parent, wahlseite, wahlpunkt);
+}

@@ -569,4 +569,7 @@ void TFchaos::drucken()
     platform::PrintPicture(PB1_->width(), PB1_->height(), [this](platform::Canvas& c, int b, int h) { zeichne(c, b, h); }, this);
 }
 
-QDialog* createTFchaos(QWidget* parent) { return new TFchaos(parent); }
+QDialog* createTFchaos(QWidget* parent, int wahlseite, int wahlpunkt)
+{
+    return new TFchaos(parent, wahlseite, wahlpunkt);
+}
