@@ -238,12 +238,14 @@ Integrationsergebnis integrationRechnen(const Integrationsvorgabe& v)
     })
                                           : termfunktion("SQRT(1+(" + a1 + ")^2)");
     r.bogenlaenge = integrieren(bogen, a, b, v.n, v.verfahren, &e);
-    const double flaeche = integrieren(d, a, b, v.n, v.verfahren);
-    if (std::fabs(flaeche) > 1e-12) {
+    // centroid of the region between the curves: weights |f-g|, so crossing parts do not cancel
+    const std::string breite = "ABS(" + diff + ")";
+    const double flaeche = integrieren(termfunktion(breite), a, b, v.n, v.verfahren);
+    if (flaeche > 1e-12) {
         r.schwerpunktDa = true;
-        r.schwerpunktX = integrieren(termfunktion("X*(" + diff + ")"), a, b, v.n, v.verfahren) / flaeche;
+        r.schwerpunktX = integrieren(termfunktion("X*" + breite), a, b, v.n, v.verfahren) / flaeche;
         r.schwerpunktY =
-            integrieren(termfunktion("((" + v.f + ")^2-(" + g + ")^2)/2"), a, b, v.n, v.verfahren) / flaeche;
+            integrieren(termfunktion("((" + v.f + ")+(" + g + "))/2*" + breite), a, b, v.n, v.verfahren) / flaeche;
     }
     return r;
 }

@@ -47,7 +47,7 @@ struct Integrationsergebnis {
     std::vector<double> teilpunkte;  // intersections of f and g inside (a, b)
     double volumen = 0;              // solid of rotation about the x axis
     double bogenlaenge = 0;          // arc length of f
-    bool schwerpunktDa = false;
+    bool schwerpunktDa = false;  // centroid of the region between f and g
     double schwerpunktX = 0, schwerpunktY = 0;
     bool ueberlauf = false;
 };

@@ -169,3 +169,19 @@ TEST(Flaechen, MethodComparisonLists)
     EXPECT_EQ(z[2], "Rechteckregel (links)\t6.875\tFehler -2.125");
     EXPECT_EQ(z[6], "Simpson-Regel\t9\tFehler 0");
 }
+
+TEST(Flaechen, CentroidOfACrossingRegion)
+{
+    // between x^2 and x on [0, 2] the two lenses do not cancel: the centroid lies inside the
+    // bounding box of the region, right of the crossing at x = 1 where most of the area is
+    Integrationsvorgabe v;
+    v.f = "X^2";
+    v.g = "X";
+    v.a = 0;
+    v.b = 2;
+    const Integrationsergebnis r = integrationRechnen(v);
+    ASSERT_TRUE(r.schwerpunktDa);
+    // exact: A = 1, int x|x^2-x| = 1/12 + 17/12 = 3/2, int (x^2+x)/2 |x^2-x| = 1/15 + 29/15 = 2
+    EXPECT_NEAR(r.schwerpunktX, 1.5, 1e-6);
+    EXPECT_NEAR(r.schwerpunktY, 2.0, 1e-6);
+}
