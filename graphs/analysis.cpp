@@ -455,8 +455,11 @@ double anstiegswinkel(double m) { return std::atan(m) * 180 / std::numbers::pi; 
 
 std::string geradengleichung(double m, double n)
 {
-    std::string s = kernel::RealToStr(1, 4, m) + "*x";
     const std::string nt = kernel::RealToStr(1, 4, n);
+    const std::string mt = kernel::RealToStr(1, 4, m);
+    if (mt == "0")
+        return nt;  // a horizontal line
+    std::string s = mt + "*x";
     if (nt != "0")
         s += (nt[0] == '-' ? "" : "+") + nt;
     return s;

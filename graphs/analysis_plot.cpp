@@ -1,5 +1,7 @@
 #include "graphs/analysis_plot.h"
 
+#include "kernel/termderiv.h"
+
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -11,7 +13,8 @@ const char* const kPlotoptionText[kPlotoptionen] = {
     "f(f(x))",                "Stammfunktion zu f1",    "Umkehrkurve zu f1",     "numerische Ableitung",
     "numerische 2.Ableitung", "numerische 3.Ableitung", "Bereich PQ markieren",  "Y-Bereich PQ markieren",
     "Gerade X = P",           "Gerade X = Q",           "Gerade X = R",          "Gerade Y = P",
-    "Gerade Y = Q",           "Gerade Y = R",           "Fläche f1...f2 für PQ", "markierte Punkte"};
+    "Gerade Y = Q",           "Gerade Y = R",           "Fläche f1...f2 für PQ", "markierte Punkte",
+    "Evolute (Krümmung)"};
 
 namespace {
 
@@ -29,6 +32,18 @@ void punkte(Skriptliste& s, const char* farbe, const std::vector<Kurvenpunkt>& p
 }
 
 }  // namespace
+
+bool evolutenTerme(const std::string& term, std::string& xTerm, std::string& yTerm)
+{
+    const std::string a1 = quorix::DerivativeTermNice(term);
+    const std::string a2 = a1.empty() ? std::string() : quorix::DerivativeTermNice(a1);
+    if (a2.empty())
+        return false;
+    // centre of curvature: x - f'(1+f'^2)/f'', f + (1+f'^2)/f''
+    xTerm = "X-(" + a1 + ")*(1+(" + a1 + ")^2)/(" + a2 + ")";
+    yTerm = "(" + term + ")+(1+(" + a1 + ")^2)/(" + a2 + ")";
+    return true;
+}
 
 void diskussionspunkteSchreiben(Skriptliste& s, const Diskussion& d)
 {
@@ -92,6 +107,16 @@ void plotSkriptSchreiben(Skriptliste& s, const std::array<std::string, 6>& terme
     }
     if (o[19] && d)
         diskussionspunkteSchreiben(s, *d);
+    std::string ex, ey;
+    if (o[20] && !f1.empty() && evolutenTerme(f1, ex, ey)) {
+        s.addText("#K");
+        s.addText(ex + "|" + ey);
+        s.addReal(-10);
+        s.addReal(10);
+        s.addReal(0.01);
+        s.addReal(0);
+        s.addReal(0);
+    }
 }
 
 Bereich bildbereich(const std::string& term, double von, double bis)

@@ -11,13 +11,17 @@
 namespace graphs {
 
 // The plot options in the order of their check boxes (texts UTF-8).
-constexpr int kPlotoptionen = 20;
+constexpr int kPlotoptionen = 21;
 extern const char* const kPlotoptionText[kPlotoptionen];
 
 struct Plotwahl {
     std::array<bool, 6> feld{true, true, true, true, true, true};  // cc1..cc6
     std::array<bool, kPlotoptionen> option{};
 };
+
+// The evolute of y = f(x) (the centres of curvature) as the two terms of a parametric curve in
+// X; false if f has no second derivative.
+bool evolutenTerme(const std::string& term, std::string& xTerm, std::string& yTerm);
 
 // Clears the script and writes the commands for the terms (empty ones are left out) and options.
 // The points of `d` (the discussion of field 1) are marked when that option is on.

@@ -214,10 +214,10 @@ TFAnalysis::TFAnalysis(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(
         for (int i = 0; i < kPlotoptionen; ++i) {
             opt_[i] = new QCheckBox(u(kPlotoptionText[i]));
             opt_[i]->setObjectName(QString("CO%1").arg(i));
-            g->addWidget(opt_[i], i % 5, i / 5);
+            g->addWidget(opt_[i], i % 6, i / 6);
         }
         opt_[19]->setChecked(true);
-        g->addWidget(knopf("B1", "Zeichnen", [this] { B1C(); }, s), 5, 0);
+        g->addWidget(knopf("B1", "Zeichnen", [this] { B1C(); }, s), 6, 0);
         seiten_->addWidget(s);
     }
     auto seite = [&](std::vector<QPushButton*> knoepfe, const char* hinweis) {
@@ -251,7 +251,7 @@ TFAnalysis::TFAnalysis(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(
            knopf("B5", "Tangenten von P(P|Q)", [this] { vonPunktC(false); }, this),
            knopf("B6", "Normalen von P(P|Q)", [this] { vonPunktC(true); }, this)},
           "Tangente und Normale an f1 an der Stelle x; Tangenten und Normalen vom Punkt (P|Q) an f1.");
-    seiten_->setFixedHeight(130);
+    seiten_->setFixedHeight(150);
     rechts->addWidget(seiten_);
     LB2_ = new QTreeWidget;
     LB2_->setObjectName("LB2");
@@ -284,6 +284,7 @@ void TFAnalysis::seiteWaehlen(int s)
         return;
     seite_ = s;
     seiten_->setCurrentIndex(s);
+    LB2_->setVisible(s != 0);  // the plot page has no list: the picture takes its place
     if (RG1_->currentRow() != s)
         RG1_->setCurrentRow(s);
     titel_->setText(QString::fromUtf8("Funktionsuntersuchung – ") + u(kSeitenNamen[s]));
@@ -487,6 +488,8 @@ void TFAnalysis::B4C()
     const TangenteNormale tn = tangenteNormale(t, stelle_);
     ergebnis(tangentenzeilen(tn));
     vorschauMitFunktion(nullptr);
+    // the neighbourhood of the point, where tangent and normal can be told apart
+    bereich_ = bildbereich(t, stelle_ - 3, stelle_ + 3);
     if (tn.definiert) {
         vorschau_.addText("#r");
         vorschau_.addReal(tn.tangenteM);

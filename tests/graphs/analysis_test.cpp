@@ -199,6 +199,7 @@ TEST(Tangente, TangentAndNormalOfTheParabola)
     // at the vertex the tangent is horizontal and the normal vertical
     const auto s = tangentenzeilen(tangenteNormale("X^2", 0));
     EXPECT_TRUE(enthaelt(s, "Nullstelle der Tangente bei\tKein"));
+    EXPECT_TRUE(enthaelt(s, "Tangentengleichung \ty = 0"));
     EXPECT_TRUE(enthaelt(s, "\tx = 0"));
     EXPECT_EQ(tangentenzeilen(tangenteNormale("LN(X)", -1)).back(), "Kein Funktionswert bestimmbar !");
 }

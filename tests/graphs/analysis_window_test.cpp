@@ -62,7 +62,7 @@ TEST(AnalyseFenster, DiscussionTangentAndPlot)
 
     w.seiteWaehlen(4);
     w.B4C();
-    EXPECT_TRUE(w.zeilen().contains("Tangentengleichung \ty = 0*x-2")) << w.zeilen().join("\n").toStdString();
+    EXPECT_TRUE(w.zeilen().contains("Tangentengleichung \ty = -2")) << w.zeilen().join("\n").toStdString();
     bildSpeichern(&w, "analysis_tangente.png");
 
     // a faulty term stops with the message of the term check (no box on a hidden window)
@@ -87,6 +87,15 @@ TEST(AnalyseFenster, PlotOptionsAndLibrary)
     const std::vector<std::string> soll = {"#F", "X^2", "#F", "X", "#A", "3", "X^2", "#H", "1", "3",
                                            "#V", "X^2", "X", "1", "3"};
     EXPECT_EQ(s.zeilen, soll);
+    // the evolute of y = x^2 is x = -4t^3, y = 3t^2 + 1/2 (centres of curvature)
+    std::string ex, ey;
+    ASSERT_TRUE(evolutenTerme("X^2", ex, ey));
+    for (double t : {-1.0, 0.5, 2.0}) {
+        int e = 0;
+        EXPECT_NEAR(termfunktion(ex)(t, e), -4 * t * t * t, 1e-9) << ex;
+        EXPECT_NEAR(termfunktion(ey)(t, e), 3 * t * t + 0.5, 1e-9) << ey;
+    }
+    EXPECT_FALSE(evolutenTerme("FOO(X)", ex, ey));
     // a library click fills the first free field
     w.setzeTerm(3, "");
     w.bibliothekKlick(0);
