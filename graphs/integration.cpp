@@ -222,10 +222,12 @@ Integrationsergebnis integrationRechnen(const Integrationsvorgabe& v)
     }
     r.orientiert *= vz;
 
-    // solid of rotation about the x axis, arc length of f, centroid of the area between f and g
+    // solid of rotation about the x axis, arc length of f, centroid of the area between f and g:
+    // always accurately, whatever rule the area was shown with
+    const int genau = std::max(v.n, 200);
     const Termfunktion ringe = termfunktion("ABS((" + v.f + ")^2-(" + g + ")^2)");
     int e = 0;
-    r.volumen = std::numbers::pi * integrieren(ringe, a, b, v.n, v.verfahren, &e);
+    r.volumen = std::numbers::pi * integrieren(ringe, a, b, genau, Integrationsverfahren::Gauss, &e);
     r.ueberlauf = r.ueberlauf || e == 4 || gross(r.volumen);
     const std::string a1 = quorix::DerivativeTermNice(v.f);
     const Termfunktion f = termfunktion(v.f);
@@ -237,15 +239,15 @@ Integrationsergebnis integrationRechnen(const Integrationsvorgabe& v)
         return std::sqrt(1 + m * m);
     })
                                           : termfunktion("SQRT(1+(" + a1 + ")^2)");
-    r.bogenlaenge = integrieren(bogen, a, b, v.n, v.verfahren, &e);
+    r.bogenlaenge = integrieren(bogen, a, b, genau, Integrationsverfahren::Gauss, &e);
     // centroid of the region between the curves: weights |f-g|, so crossing parts do not cancel
     const std::string breite = "ABS(" + diff + ")";
-    const double flaeche = integrieren(termfunktion(breite), a, b, v.n, v.verfahren);
+    const double flaeche = integrieren(termfunktion(breite), a, b, genau, Integrationsverfahren::Gauss);
     if (flaeche > 1e-12) {
         r.schwerpunktDa = true;
-        r.schwerpunktX = integrieren(termfunktion("X*" + breite), a, b, v.n, v.verfahren) / flaeche;
+        r.schwerpunktX = integrieren(termfunktion("X*" + breite), a, b, genau, Integrationsverfahren::Gauss) / flaeche;
         r.schwerpunktY =
-            integrieren(termfunktion("((" + v.f + ")+(" + g + "))/2*" + breite), a, b, v.n, v.verfahren) / flaeche;
+            integrieren(termfunktion("((" + v.f + ")+(" + g + "))/2*" + breite), a, b, genau, Integrationsverfahren::Gauss) / flaeche;
     }
     return r;
 }

@@ -247,12 +247,28 @@ void TFintegra::berechnen()
     termAuswerter().setzeParameter(v.p, v.q);
     // the area between the curves, shaded, with the bounds and the intersections marked
     skript_.leeren();
-    if (gerechnet_) {
+    const bool streifen = v.g == "0" && v.n <= 200 &&
+                          (v.verfahren == Integrationsverfahren::RechteckLinks ||
+                           v.verfahren == Integrationsverfahren::RechteckRechts ||
+                           v.verfahren == Integrationsverfahren::Mittelpunkt);
+    if (gerechnet_ && streifen) {
+        // the rectangles of the rule itself, with their sum
+        skript_.addText("#I");
+        skript_.addText(v.f);
+        skript_.addReal(v.a);
+        skript_.addReal(v.b);
+        skript_.addInt(v.n);
+        skript_.addInt(v.verfahren == Integrationsverfahren::RechteckLinks    ? 0
+                       : v.verfahren == Integrationsverfahren::RechteckRechts ? 1
+                                                                               : 2);
+    } else if (gerechnet_) {
         skript_.addText("#V");
         skript_.addText(v.f);
         skript_.addText(v.g);
         skript_.addReal(v.a);
         skript_.addReal(v.b);
+    }
+    if (gerechnet_) {
         skript_.addText("#G");
         skript_.addReal(v.a);
         skript_.addText("#G");

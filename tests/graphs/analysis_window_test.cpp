@@ -122,6 +122,15 @@ TEST(IntegralFenster, AreasAndSolid)
         << w->zeilen().join("\n").toStdString();
     w->RG1C(1);
     bildSpeichern(w, "integration_koerper.png");
+    // a rectangle rule over f alone shows its strips: left sum of x^2 on [0, 3] with 6 strips
+    w->RG1C(0);
+    w->setzeFelder("X^2", "0", "", "", "0", "3");
+    w->setzeVerfahren(Integrationsverfahren::RechteckLinks, 6);
+    w->berechnen();
+    EXPECT_TRUE(w->zeilen().contains(QString::fromUtf8("Orientierte Fläche\t6.875 FE")));
+    ASSERT_FALSE(w->skript().zeilen.empty());
+    EXPECT_EQ(w->skript().zeilen[0], "#I");
+    bildSpeichern(w, "integration_streifen.png");
     // a term fault leaves the list with its message
     w->hide();
     w->setzeFelder("FOO(X)", "0", "", "", "0", "1");

@@ -153,6 +153,16 @@ TEST(Flaechen, SolidsOfRotationArcAndCentroid)
     v.g = "2";
     EXPECT_NEAR(integrationRechnen(v).volumen, 8 * std::numbers::pi, 1e-6);
 
+    // a coarse rule for the area leaves the solid exact: pi * int_0^3 x^4 = 243 pi / 5
+    Integrationsvorgabe grob;
+    grob.f = "X^2";
+    grob.b = 3;
+    grob.verfahren = Integrationsverfahren::RechteckLinks;
+    grob.n = 6;
+    const Integrationsergebnis rg = integrationRechnen(grob);
+    EXPECT_NEAR(rg.orientiert, 6.875, 1e-12);
+    EXPECT_NEAR(rg.volumen, 243 * std::numbers::pi / 5, 1e-9);
+
     // catenary cosh x on [-1, 1]: arc length 2 sinh 1
     v.f = "COSH(X)";
     v.g = "0";
