@@ -10,7 +10,9 @@
 #include "platform/container.h"
 #include "platform/toolframe.h"
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -111,6 +113,40 @@ void vorschauZeichnen(platform::Canvas& c, int breite, int hoehe, Skriptliste& s
     g.komplett(c);
 }
 
+QHBoxLayout* bildknoepfe(QWidget* owner, QWidget* bild, const platform::PaintRoutine& paint,
+                         const std::function<std::vector<std::string>()>& liste)
+{
+    auto* reihe = new QHBoxLayout;
+    const int arten[] = {2, 3, 4};
+    for (int art : arten) {
+        auto* b = new QPushButton;
+        b->setObjectName(QString("TB%1").arg(art));
+        platform::SetToolButton(b, art);
+        b->setFixedSize(34, 30);
+        QObject::connect(b, &QPushButton::clicked, owner, [=] {
+            const int w = bild->width(), h = bild->height();
+            if (art == 2)
+                platform::PrintPicture(w, h, paint, owner);
+            else if (art == 3)
+                platform::CopyPicture(w, h, paint, owner);
+            else
+                platform::SavePicture(w, h, paint, owner);
+        });
+        reihe->addWidget(b);
+    }
+    auto* text = new QPushButton("Liste kopieren");
+    text->setObjectName("TBliste");
+    QObject::connect(text, &QPushButton::clicked, owner, [=] {
+        QString t;
+        for (const std::string& z : liste())
+            t += QString::fromUtf8(z.c_str()) + "\n";
+        QApplication::clipboard()->setText(t);
+    });
+    reihe->addWidget(text);
+    reihe->addStretch(1);
+    return reihe;
+}
+
 // ---------------------------------------------------------------- small plot
 
 class TAnalyseBild : public QWidget {
@@ -148,6 +184,9 @@ TFAnalysis::TFAnalysis(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(
     titel_->setWordWrap(true);
     titel_->setStyleSheet("font: bold 13pt 'Verdana'; color: navy;");
     links->addWidget(titel_);
+    links->addLayout(bildknoepfe(
+        this, PB1_ = new TAnalyseBild(this),
+        [this](platform::Canvas& c, int w, int h) { zeichnen(c, w, h); }, [this] { return zeilen_; }));
     links->addWidget(new QLabel("Teilprogramme"));
     RG1_ = new QListWidget;
     RG1_->setObjectName("RG1");
@@ -260,7 +299,6 @@ TFAnalysis::TFAnalysis(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(
     LB2_->setRootIsDecorated(false);
     LB2_->setAlternatingRowColors(true);
     rechts->addWidget(LB2_, 1);
-    PB1_ = new TAnalyseBild(this);
     rechts->addWidget(PB1_, 1);
     haupt->addLayout(rechts, 1);
 

@@ -6,12 +6,16 @@
 #include "graphs/plotzustand.h"
 #include "platform/canvas.h"
 #include "platform/textlist.h"
+#include "platform/toolframe.h"
+
+#include <functional>
 
 #include <QDialog>
 #include <QStringList>
 #include <array>
 
 class QCheckBox;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -28,6 +32,10 @@ bool bibliothekSpeichern(const std::string& name, const platform::StringList& li
 void zeilenZeigen(QTreeWidget* liste, const std::vector<std::string>& zeilen);
 // Draws a GraphScript over a range on a canvas (the windows' small plot).
 void vorschauZeichnen(platform::Canvas& c, int breite, int hoehe, Skriptliste& skript, const Bereich& b);
+
+// The row of print, copy and save buttons for a tool's picture, and one that copies the list.
+QHBoxLayout* bildknoepfe(QWidget* owner, QWidget* bild, const platform::PaintRoutine& paint,
+                         const std::function<std::vector<std::string>()>& liste);
 
 class TAnalyseBild;
 

@@ -73,6 +73,9 @@ TFintegra::TFintegra(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(pa
     auto* titel = new QLabel("Integralrechnung");
     titel->setStyleSheet("font: bold 13pt 'Verdana'; color: navy;");
     links->addWidget(titel);
+    links->addLayout(bildknoepfe(
+        this, PB1_ = new TIntegralBild(this),
+        [this](platform::Canvas& c, int w, int h) { zeichnen(c, w, h); }, [this] { return zeilen_; }));
     RG1_ = new QListWidget;
     RG1_->setObjectName("RG1");
     RG1_->addItem(QString::fromUtf8("Flächen und Volumen"));
@@ -152,7 +155,6 @@ TFintegra::TFintegra(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(pa
         seiten_->addWidget(k);
     }
     rechts->addWidget(seiten_, 1);
-    PB1_ = new TIntegralBild(this);
     rechts->addWidget(PB1_, 2);
     haupt->addLayout(rechts, 1);
 

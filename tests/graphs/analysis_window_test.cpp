@@ -60,6 +60,21 @@ TEST(AnalyseFenster, DiscussionTangentAndPlot)
     EXPECT_EQ(s[3], "rot");
     bildSpeichern(&w, "analysis_diskussion.png");
 
+    // value table and the rules side by side over the interval set in the fields
+    w.seiteWaehlen(1);
+    w.findChild<QLineEdit*>("Evon")->setText("0");
+    w.findChild<QLineEdit*>("Ebis")->setText("2");
+    w.findChild<QLineEdit*>("Eschritt")->setText("0,5");
+    w.S12C();
+    ASSERT_EQ(w.zeilen().size(), 7);
+    EXPECT_EQ(w.zeilen()[6], "2\t2\t9\t12\t-2");  // f(2) = 2, f'(2) = 9, f''(2) = 12, F(2) = 4-6
+    w.seiteWaehlen(3);
+    w.findChild<QLineEdit*>("Eschritt")->setText("4");
+    w.integrationC();
+    EXPECT_TRUE(w.zeilen().contains("Simpson-Regel\t-2\tFehler 0")) << w.zeilen().join("\n").toStdString();
+    w.findChild<QLineEdit*>("Evon")->setText("-10");
+    w.findChild<QLineEdit*>("Ebis")->setText("10");
+
     w.seiteWaehlen(4);
     w.B4C();
     EXPECT_TRUE(w.zeilen().contains("Tangentengleichung \ty = -2")) << w.zeilen().join("\n").toStdString();
