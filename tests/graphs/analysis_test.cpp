@@ -8,7 +8,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <fstream>
 #include <numbers>
+#include <sstream>
+
+#include "kernel/term.h"
 
 using namespace graphs;
 
@@ -233,4 +237,70 @@ TEST(Schnittpunkte, ParabolaAndLine)
     EXPECT_EQ(z[0], "Schnittpunkte der Funktionen 1 und 2");
     EXPECT_TRUE(enthaelt(z, "(2 | 4)"));
     EXPECT_TRUE(enthaelt(z, "Anstiegswinkel f(2) = 45°"));
+}
+
+namespace {
+
+std::vector<std::string> woerter(const std::string& s)
+{
+    std::istringstream in(s);
+    std::vector<std::string> r;
+    std::string w;
+    while (in >> w)
+        if (w != "-")
+            r.push_back(w);
+    return r;
+}
+
+double termwert(const std::string& t)
+{
+    quorix::TermError = 0;
+    const double v = quorix::EvalTerm(t, 1);
+    EXPECT_EQ(quorix::TermError, 0) << t;
+    return v;
+}
+
+}  // namespace
+
+TEST(Diskussion, TextbookCaseTable)
+{
+    std::ifstream in(std::string(QUORIX_TEST_DATA) + "/analysis_cases.txt");
+    ASSERT_TRUE(in);
+    std::string zeile;
+    int faelle = 0;
+    while (std::getline(in, zeile)) {
+        if (zeile.empty() || zeile[0] == '#')
+            continue;
+        std::vector<std::string> teil;
+        std::istringstream z(zeile);
+        std::string t;
+        while (std::getline(z, t, '|'))
+            teil.push_back(t);
+        ASSERT_EQ(teil.size(), 5u) << zeile;
+        const std::string term = woerter(teil[0]).at(0);
+        const auto grenzen = woerter(teil[1]);
+        const Diskussion d = diskussion(term, termwert(grenzen.at(0)), termwert(grenzen.at(1)));
+        ASSERT_TRUE(d.fehler.empty()) << term;
+        std::vector<double> soll;
+        for (const auto& w : woerter(teil[2]))
+            soll.push_back(termwert(w));
+        erwarteStellen(d.nullstellen, soll, (term + " zeros").c_str());
+        const auto ext = woerter(teil[3]);
+        ASSERT_EQ(d.extrema.size(), ext.size()) << term;
+        for (size_t i = 0; i < ext.size(); ++i) {
+            const size_t p = ext[i].rfind('/');
+            EXPECT_NEAR(d.extrema[i].x, termwert(ext[i].substr(0, p)), 1e-6) << term << " extreme " << i;
+            EXPECT_EQ(d.extrema[i].art, ext[i][p + 1] == 'H' ? Extremart::Maximum : Extremart::Minimum)
+                << term << " extreme " << i;
+        }
+        soll.clear();
+        std::vector<double> ist;
+        for (const auto& w : woerter(teil[4]))
+            soll.push_back(termwert(w));
+        for (const Kurvenpunkt& k : d.wendepunkte)
+            ist.push_back(k.x);
+        erwarteStellen(ist, soll, (term + " inflections").c_str());
+        ++faelle;
+    }
+    EXPECT_EQ(faelle, 10);
 }
