@@ -6,6 +6,7 @@
 #include "graphs/zeichnen.h"
 #include "kernel/realtostr.h"
 #include "kernel/term.h"
+#include "kernel/termderiv.h"
 #include "lexicon/globals.h"
 #include "platform/container.h"
 #include "platform/toolframe.h"
@@ -366,6 +367,10 @@ void TFAnalysis::parameterLesen()
     quorix::TermParamQ = q_;
     quorix::TermParamR = r_;
     termAuswerter().setzeParameter(p_, q_);
+    // field 1 and its derivative can be called as F1 and F2 from the other fields
+    const std::string f1 = termText(E_[0]->text());
+    quorix::TermFunctionSlots[0] = f1;
+    quorix::TermFunctionSlots[1] = f1.empty() ? std::string() : quorix::DerivativeTermNice(f1);
 }
 
 bool TFAnalysis::termHolen(int feld, std::string& t)

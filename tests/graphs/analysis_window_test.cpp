@@ -111,6 +111,12 @@ TEST(AnalyseFenster, PlotOptionsAndLibrary)
         EXPECT_NEAR(termfunktion(ey)(t, e), 3 * t * t + 0.5, 1e-9) << ey;
     }
     EXPECT_FALSE(evolutenTerme("FOO(X)", ex, ey));
+    // field 2 may call field 1 and its derivative: x^2 and x^2-2x meet at 0 only
+    w.setzeTerm(1, "X^2");
+    w.setzeTerm(2, "F1(X)-F2(X)");
+    w.D8C();
+    EXPECT_TRUE(w.zeilen().contains("(0 | 0)")) << w.zeilen().join("\n").toStdString();
+    EXPECT_EQ(w.zeilen().size(), 6);
     // a library click fills the first free field
     w.setzeTerm(3, "");
     w.bibliothekKlick(0);
