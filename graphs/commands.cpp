@@ -1,5 +1,7 @@
 #include "graphs/commands.h"
 
+#include "graphs/analysis_commands.h"
+
 #include "graphs/zeichnen.h"
 #include "platform/codepage.h"
 
@@ -130,10 +132,13 @@ int runPlot(Args args, std::ostream& out, std::ostream& err)
 
 std::vector<quorix::HeadlessCommand> graphsCommands()
 {
-    return {{"plot",
+    std::vector<quorix::HeadlessCommand> liste = {{"plot",
              "plot TERM... [--range XMIN XMAX YMIN YMAX] [--size BxH] --png DATEI | plot --script DATEI --png DATEI: "
              "Funktionen zeichnen",
              runPlot}};
+    for (quorix::HeadlessCommand& k : kurvenCommands())
+        liste.push_back(std::move(k));
+    return liste;
 }
 
 }  // namespace graphs

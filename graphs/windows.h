@@ -10,6 +10,10 @@ struct PlotAuftrag;
 namespace graphs {
 
 QDialog* createTFGraph(QWidget* parent);  // tool 4, "Grafische Darstellung"
+// tool 3, "Funktionsuntersuchung": page = sub-program 0..4
+QDialog* createTFAnalysis(QWidget* parent, int wahlseite = -1, int wahlpunkt = -1);
+// tool 12, "Integralrechnung"
+QDialog* createTFintegra(QWidget* parent, int wahlseite = -1, int wahlpunkt = -1);
 
 // An F: link of a page: fills the GraphScript and the fields from the request and opens the
 // plotter modally. false for a surface request, which belongs to the surface tool.
