@@ -56,10 +56,10 @@ const std::vector<WerkzeugEintrag>& werkzeugtabelle()
     // Kind A and B windows and the plotter get their factories as their tools are built.
     static const std::vector<WerkzeugEintrag> tabelle = [] {
         std::vector<WerkzeugEintrag> t = {
-            {2, A::A, "TFInter", {}},       {3, A::A, "TFAnalysis", {}},   {4, A::C, "TFGraph", graphs::createTFGraph},
+            {2, A::A, "TFInter", {}},       {3, A::A, "TFAnalysis", mitSeite(graphs::createTFAnalysis)},   {4, A::C, "TFGraph", graphs::createTFGraph},
             {5, A::A, "TFabbild", mitSeite(::createTFabbild)}, {6, A::A, "TFchaos", mitSeite(::createTFchaos)},      {7, A::B, "TFnumer", {}},
             {8, A::A, "TFalgebra", {}},     {9, A::A, "TFkalend", mitSeite(::createTFkalend)},     {10, A::A, "Tf2048", {}},
-            {11, A::A, "TFpoly", {}},       {12, A::A, "TFintegra", {}},   {13, A::A, "TForm13", {}},
+            {11, A::A, "TFpoly", {}},       {12, A::A, "TFintegra", mitSeite(graphs::createTFintegra)},   {13, A::A, "TForm13", {}},
             {14, A::A, "TForm14", mitSeite(dynamics::createTForm14)},      {15, A::A, "TFphy", {}},       {16, A::A, "TForm16", {}},
             {17, A::A, "TForm17", {}},      {18, A::A, "Ttranskoord", {}}, {19, A::B, "Tfphase", ::createTfphase},
             {20, A::A, "TForm20", {}},      {21, A::A, "TForm21", {}},     {22, A::A, "TForm22", {}},
