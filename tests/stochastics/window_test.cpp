@@ -1,0 +1,60 @@
+// The window: size and caption, the catalogue's page and item, every page computing with its
+// defaults, and a stopped simulation. QUORIX_PNG_DIR=dir saves a picture of some pages.
+#include "stochastics/uzufall.h"
+#include "stochastics/windows.h"
+
+#include <QComboBox>
+#include <QPixmap>
+#include <gtest/gtest.h>
+#include <memory>
+
+using namespace zufall;
+
+TEST(Window, OpensTheCataloguePage)
+{
+    std::unique_ptr<QDialog> dlg(createTForm17(nullptr, 10, 1));
+    auto* w = qobject_cast<TForm17*>(dlg.get());
+    ASSERT_NE(w, nullptr);
+    EXPECT_EQ(w->size(), QSize(1008, 710));
+    EXPECT_EQ(w->windowTitle(), "Quorix");
+    EXPECT_EQ(w->seite(), 10);
+    // item 1 of the discrete page is the Poisson law: its table follows
+    w->setzeFeld(1, "2");
+    w->B1C();
+    EXPECT_TRUE(w->zeilen().contains("k\tP(X=k)\tP(X<=k)"));
+    EXPECT_TRUE(w->zeilen().contains("0\t0.135335\t0.135335")) << w->zeilen().join("\n").toStdString();
+    // out of range selections fall back to the first page
+    std::unique_ptr<QDialog> d2(createTForm17(nullptr, 99, 99));
+    EXPECT_EQ(qobject_cast<TForm17*>(d2.get())->seite(), 0);
+}
+
+TEST(Window, EveryPageComputesWithItsDefaults)
+{
+    TForm17 w;
+    w.setzeStartwert(17);
+    ASSERT_EQ(seiten().size(), static_cast<size_t>(kSeitenAnzahl));
+    const char* dir = std::getenv("QUORIX_PNG_DIR");
+    w.show();
+    for (int i = 0; i < kSeitenAnzahl; ++i) {
+        w.waehleSeite(i);
+        w.B1C();
+        const QStringList z = w.zeilen();
+        ASSERT_FALSE(z.isEmpty()) << seiten()[i].ueberschrift;
+        const QString alles = z.join("\n");
+        EXPECT_FALSE(alles.contains("Ungültig") || alles.contains("nötig") || alles.contains("Keine"))
+            << seiten()[i].ueberschrift << "\n" << alles.toStdString();
+        EXPECT_FALSE(w.diagramm().leer()) << seiten()[i].ueberschrift;
+        if (dir) w.grab().save(QString("%1/seite%2.png").arg(dir).arg(i));
+    }
+    // the statistics page shows the rows of its evaluation
+    w.waehleSeite(0);
+    w.setzeFeld(1, "2 4 4 4 5 5 7 9");
+    w.B1C();
+    EXPECT_TRUE(w.zeilen().contains("Standardabweichung\t2"));
+    // a term is accepted where a number is expected
+    w.waehleSeite(21);
+    w.setzeFeld(0, "2*10+3");
+    w.setzeFeld(1, "50");
+    w.B1C();
+    EXPECT_EQ(w.zeilen().value(0), "Personenzahl\t23");
+}
