@@ -160,7 +160,7 @@ Ergebnis wuerfelExperiment(int art, int anzahl, long wuerfe, Zufall& z, const st
     }
     e.zeilen.push_back("Mittelwert\t" + (i > 0 ? zahl(mittel / i) : "unbestimmt"));
     e.zeilen.push_back("Erwartungswert\t" + zahl(erwartet));
-    e.bild.titel = "Relative Häufigkeiten der Augensummen (Punkte: Wahrscheinlichkeiten)";
+    e.bild.titel = "Relative Häufigkeiten der Augensummen";
     return e;
 }
 
@@ -302,7 +302,7 @@ Ergebnis lottoSimulation(int k, int n, bool zz, const std::vector<int>& tippIn, 
         e.bild.vergleich.push_back({x, c.exakt});
         x += 1;
     }
-    e.bild.titel = "Gewinnklassen: relative Häufigkeiten (Punkte: Wahrscheinlichkeiten)";
+    e.bild.titel = "Gewinnklassen: relative Häufigkeiten";
     return e;
 }
 
@@ -571,7 +571,7 @@ Ergebnis markowSimulation(const Markow& m, int start, long schritte, Zufall& z, 
         e.bild.balken.push_back({i - 0.4, 0.8, s ? double(besuche[i]) / s : 0, "Zustand " + std::to_string(i)});
         if (!pi.empty()) e.bild.vergleich.push_back({double(i), pi[i]});
     }
-    e.bild.titel = "Aufenthaltsanteile (Punkte: stationäre Verteilung)";
+    e.bild.titel = "Aufenthaltsanteile der Zustände";
     return e;
 }
 
@@ -639,7 +639,7 @@ Ergebnis pfadErgebnis(const std::vector<int>& kugeln, const std::vector<int>& pf
     double y = 0.5;
     for (int s = 0; s < stufen; ++s) {
         const double x0 = double(s) / stufen, x1 = double(s + 1) / stufen;
-        const double spreizung = 0.45 / std::pow(farben, s * 0.5 + 0.5);
+        const double spreizung = 0.48 * (farben - 1) / farben / std::pow(farben, s);
         for (int c = 0; c < farben; ++c) {
             const double y1 = farben == 1 ? y : y + spreizung * (2.0 * c / (farben - 1) - 1);
             const std::string text = urne[c] > 0 && gesamt > 0 ? std::to_string(urne[c]) + "/" + std::to_string(gesamt) : "0";

@@ -133,7 +133,10 @@ Zeilen normalTabelle(bool logarithmisch, double mu, double varianz, double a, do
     Zeilen z = {logarithmisch ? "Logarithmische Normalverteilung" : "Normalverteilung",
                 "Erwartungswert\t" + zahl(logarithmisch ? std::exp(mu + varianz / 2) : mu),
                 "Varianz\t" + zahl(logarithmisch ? (std::exp(varianz) - 1) * std::exp(2 * mu + varianz) : varianz),
-                "x\tDichtefunktion f(x)"};
+                };
+    if (a > b) std::swap(a, b);
+    z.push_back("P(" + zahl(a, 4) + " <= X <= " + zahl(b, 4) + ") = F(b) - F(a)\t" + zahl(F(b) - F(a)));
+    z.push_back("x\tDichtefunktion f(x)");
     for (int i = 0; i <= 10; ++i) {
         const double x = von + (bis - von) * i / 10;
         z.push_back(zahl(x, 4) + "\t" + zahl(f(x)));
@@ -143,8 +146,6 @@ Zeilen normalTabelle(bool logarithmisch, double mu, double varianz, double a, do
         const double x = von + (bis - von) * i / 10;
         z.push_back(zahl(x, 4) + "\t" + zahl(F(x)));
     }
-    if (a > b) std::swap(a, b);
-    z.push_back("P(" + zahl(a, 4) + " <= X <= " + zahl(b, 4) + ") = F(b) - F(a)\t" + zahl(F(b) - F(a)));
     if (bild) {
         const std::string term = logarithmisch
                                      ? termZahl(1 / (s * std::sqrt(2 * M_PI))) + "*1/X*EXP(-SQR(LN(X)-" + termKlammer(mu) +

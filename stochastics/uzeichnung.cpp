@@ -66,6 +66,15 @@ void zeichneDiagramm(platform::Canvas& c, int breite, int hoehe, const Diagramm&
     c.setFontStyle(0);
     c.setFontSize(8);
     c.setFontColor(platform::clBlack);
+    if (!d.vergleich.empty()) {
+        // legend of the exact values
+        c.setBrushStyle(platform::BrushStyle::Solid);
+        c.setBrushColor(platform::clRed);
+        c.setPenColor(rgb(120, 0, 0));
+        c.rectangle(breite - 200, 13, breite - 191, 22);
+        c.setBrushStyle(platform::BrushStyle::Clear);
+        c.textOutW(breite - 185, 10, QString::fromUtf8("theoretischer Wert"));
+    }
     if (d.leer()) {
         c.setFontColor(platform::clGray);
         c.textOutW(12, 40, QString::fromUtf8("Eingaben wählen und die Schaltfläche drücken."));

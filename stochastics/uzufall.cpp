@@ -49,7 +49,7 @@ TForm17::TForm17(QWidget* parent, int wahlseite, int wahlpunkt)
 
     auto* haupt = new QHBoxLayout(this);
     LB1_ = new QListWidget;
-    LB1_->setFixedWidth(230);
+    LB1_->setFixedWidth(262);
     for (const Seite& s : seiten()) {
         auto* item = new QListWidgetItem(u(s.titel));
         LB1_->addItem(item);
@@ -58,11 +58,16 @@ TForm17::TForm17(QWidget* parent, int wahlseite, int wahlpunkt)
     }
     haupt->addWidget(LB1_);
 
-    auto* links = new QVBoxLayout;
+    // the heading spans the inputs and the drawing
+    auto* rechtsAussen = new QVBoxLayout;
     L1_ = new QLabel;
-    L1_->setStyleSheet("font-weight: bold; color: navy; font-size: 12pt;");
-    L1_->setWordWrap(true);
-    links->addWidget(L1_);
+    L1_->setStyleSheet("font-weight: bold; color: navy; font-size: 13pt;");
+    rechtsAussen->addWidget(L1_);
+    auto* spalten = new QHBoxLayout;
+    rechtsAussen->addLayout(spalten, 1);
+    haupt->addLayout(rechtsAussen, 1);
+    auto* links = new QVBoxLayout;
+    links->setContentsMargins(0, 0, 0, 0);
     eingabe_ = new QStackedWidget;
     seiten_.resize(seiten().size());
     for (int i = 0; i < static_cast<int>(seiten().size()); ++i) baueSeite(i);
@@ -84,8 +89,8 @@ TForm17::TForm17(QWidget* parent, int wahlseite, int wahlpunkt)
     links->addWidget(LB2_, 1);
     auto* linksW = new QWidget;
     linksW->setLayout(links);
-    linksW->setFixedWidth(360);
-    haupt->addWidget(linksW);
+    linksW->setFixedWidth(330);
+    spalten->addWidget(linksW);
 
     auto* rechts = new QVBoxLayout;
     PB1_ = new TZeichenflaeche(this);
@@ -98,7 +103,7 @@ TForm17::TForm17(QWidget* parent, int wahlseite, int wahlpunkt)
     bildknoepfe->addWidget(B3_);
     bildknoepfe->addWidget(B4);
     rechts->addLayout(bildknoepfe);
-    haupt->addLayout(rechts, 1);
+    spalten->addLayout(rechts, 1);
 
     auto paint = [this](platform::Canvas& c, int w, int h) { zeichne(c, w, h); };
     connect(B1_, &QPushButton::clicked, this, [this] { B1C(); });
@@ -117,7 +122,11 @@ void TForm17::baueSeite(int nr)
     const Seite& s = seiten()[nr];
     auto& w = seiten_[nr];
     w.panel = new QWidget;
-    auto* form = new QFormLayout(w.panel);
+    auto* spalte = new QVBoxLayout(w.panel);
+    spalte->setContentsMargins(0, 0, 0, 0);
+    auto* form = new QFormLayout;
+    spalte->addLayout(form);
+    spalte->addStretch(1);
     form->setContentsMargins(0, 0, 0, 0);
     form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     for (int f = 0; f < static_cast<int>(s.felder.size()); ++f) {
@@ -136,7 +145,7 @@ void TForm17::baueSeite(int nr)
             widget = cb;
         } else if (feld.art == Feld::Text) {
             auto* te = new QPlainTextEdit(u(feld.vorgabe));
-            te->setMaximumHeight(feld.name.find("Übergang") != std::string::npos ? 80 : 54);
+            te->setFixedHeight(feld.name.find("Übergang") != std::string::npos ? 70 : 46);
             widget = te;
         } else {
             auto* le = new QLineEdit(u(feld.vorgabe));
@@ -261,6 +270,8 @@ void TForm17::zeigeErgebnis(const Ergebnis& e)
         auto* item = new QTreeWidgetItem(LB2_);
         for (int i = 0; i < teile.size() && i < 4; ++i) item->setText(i, teile[i]);
         item->setToolTip(0, u(z).replace('\t', "   "));
+        // a line without columns (sentence, heading) runs over the whole width
+        if (teile.size() == 1) item->setFirstColumnSpanned(true);
     }
     bild_ = e.bild;
     PB1_->update();
