@@ -661,7 +661,6 @@ Ergebnis ausgleichSimulation(long wuerfe, Zufall& z, const Fortschritt& f)
     std::vector<Punkt> absolut, relativ;
     Takt takt(wuerfe, f);
     long i = 0;
-    double maxDiff = 1;
     for (; i < wuerfe; ++i) {
         if (!takt.weiter(i)) {
             e.abgebrochen = true;
@@ -672,7 +671,6 @@ Ergebnis ausgleichSimulation(long wuerfe, Zufall& z, const Fortschritt& f)
             const auto [mn, mx] = std::minmax_element(h.begin(), h.end());
             absolut.push_back({double(i + 1), double(*mx - *mn)});
             relativ.push_back({double(i + 1), double(*mx - *mn) / (i + 1)});
-            maxDiff = std::max(maxDiff, double(*mx - *mn));
         }
     }
     const long kleinste = *std::min_element(h.begin(), h.end()), groesste = *std::max_element(h.begin(), h.end());
@@ -682,10 +680,9 @@ Ergebnis ausgleichSimulation(long wuerfe, Zufall& z, const Fortschritt& f)
                            (kleinste > 0 ? zahl(double(h[a]) / kleinste, 4) : "unbestimmt"));
     e.zeilen.push_back("Differenz H(max)-H(min) = " + std::to_string(groesste - kleinste));
     e.zeilen.push_back("relative Differenz\t" + anteil(groesste - kleinste, i));
-    e.bild.titel = "H(max)-H(min) wächst, relativ zur Wurfzahl (rot, x" + zahl(maxDiff * 10, 0) + ") schrumpft sie";
+    e.bild.titel = "rot: H(max)-H(min), blau: relative Differenz in Promille";
     e.bild.kurven = {absolut};
-    // the relative difference scaled into the same picture
-    for (auto& p : relativ) p.second *= maxDiff * 10;
+    for (auto& p : relativ) p.second *= 1000;
     e.bild.punkte = relativ;
     return e;
 }

@@ -71,16 +71,16 @@ void zeichneDiagramm(platform::Canvas& c, int breite, int hoehe, const Diagramm&
         c.setBrushStyle(platform::BrushStyle::Solid);
         c.setBrushColor(platform::clRed);
         c.setPenColor(rgb(120, 0, 0));
-        c.rectangle(breite - 200, 13, breite - 191, 22);
+        c.rectangle(breite - 160, 33, breite - 151, 42);
         c.setBrushStyle(platform::BrushStyle::Clear);
-        c.textOutW(breite - 185, 10, QString::fromUtf8("theoretischer Wert"));
+        c.textOutW(breite - 145, 30, QString::fromUtf8("theoretischer Wert"));
     }
     if (d.leer()) {
         c.setFontColor(platform::clGray);
         c.textOutW(12, 40, QString::fromUtf8("Eingaben wählen und die Schaltfläche drücken."));
         return;
     }
-    const int l = 60, t = 40, r = breite - 20, b = hoehe - 40;
+    const int l = 60, t = 52, r = breite - 20, b = hoehe - 40;
     if (!d.linien.empty()) {
         zeichneBaum(c, l - 30, t, r - l + 30, b - t, d);
         return;

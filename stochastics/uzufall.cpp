@@ -8,6 +8,8 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDateTime>
+#include <QDir>
+#include <QStandardPaths>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -26,6 +28,16 @@ using namespace zufall;
 namespace {
 QString u(const std::string& s) { return QString::fromUtf8(s.c_str(), static_cast<int>(s.size())); }
 std::string s8(const QString& s) { return s.toUtf8().toStdString(); }
+
+constexpr int kMarkowSeite = 9;
+
+// The user's last transition matrix lives in the data folder.
+std::string markowDatei()
+{
+    const QString dir = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Quorix";
+    QDir().mkpath(dir);
+    return s8(dir + "/markov.txt");
+}
 }  // namespace
 
 // ---------------------------------------------------------------- drawing panel
@@ -81,7 +93,7 @@ TForm17::TForm17(QWidget* parent, int wahlseite, int wahlpunkt)
     knoepfe->addWidget(L2_, 1);
     links->addLayout(knoepfe);
     LB2_ = new QTreeWidget;
-    LB2_->setColumnCount(4);
+    LB2_->setColumnCount(6);
     LB2_->setHeaderHidden(true);
     LB2_->setRootIsDecorated(false);
     LB2_->header()->setStretchLastSection(false);
@@ -113,6 +125,13 @@ TForm17::TForm17(QWidget* parent, int wahlseite, int wahlpunkt)
     connect(LB1_, &QListWidget::currentRowChanged, this, [this](int r) {
         if (r >= 0 && r != seite_) waehleSeite(r);
     });
+
+    platform::StringList matrix;
+    if (platform::readTextFile(markowDatei(), matrix) && !matrix.empty()) {
+        QString text;
+        for (const auto& z : matrix) text += u(platform::cp1252ToUtf8(z)) + "\n";
+        qobject_cast<QPlainTextEdit*>(seiten_[kMarkowSeite].felder[0])->setPlainText(text.trimmed());
+    }
 
     waehleSeite(wahlseite >= 0 && wahlseite < kSeitenAnzahl ? wahlseite : 0, wahlpunkt);
 }
@@ -252,7 +271,17 @@ void TForm17::B1C()
             return !stopp_;
         };
     }
-    const Ergebnis e = s.rechne(eingaben(seite_), zufall_, f);
+    const Eingaben ein = eingaben(seite_);
+    const Ergebnis e = s.rechne(ein, zufall_, f);
+    if (seite_ == kMarkowSeite && markowAusText(ein[0]).fehler.empty()) {
+        platform::StringList liste;
+        for (const QString& z : u(ein[0]).split('\n')) liste.push_back(platform::utf8ToCp1252(s8(z)));
+        try {
+            platform::writeTextFile(markowDatei(), liste);
+        } catch (...) {
+            // a read-only data folder only costs the remembered matrix
+        }
+    }
     if (s.simulation) {
         laeuft_ = false;
         B1_->setText(u(s.knopf));
@@ -268,7 +297,7 @@ void TForm17::zeigeErgebnis(const Ergebnis& e)
     for (const auto& z : e.zeilen) {
         const QStringList teile = u(z).split('\t');
         auto* item = new QTreeWidgetItem(LB2_);
-        for (int i = 0; i < teile.size() && i < 4; ++i) item->setText(i, teile[i]);
+        for (int i = 0; i < teile.size() && i < 6; ++i) item->setText(i, teile[i]);
         item->setToolTip(0, u(z).replace('\t', "   "));
         // a line without columns (sentence, heading) runs over the whole width
         if (teile.size() == 1) item->setFirstColumnSpanned(true);
@@ -283,7 +312,7 @@ QStringList TForm17::zeilen() const
     for (int i = 0; i < LB2_->topLevelItemCount(); ++i) {
         QStringList teile;
         const auto* item = LB2_->topLevelItem(i);
-        for (int c = 0; c < 4; ++c) teile << item->text(c);
+        for (int c = 0; c < 6; ++c) teile << item->text(c);
         while (teile.size() > 1 && teile.back().isEmpty()) teile.removeLast();
         l << teile.join('\t');
     }

@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QPixmap>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -30,6 +31,9 @@ TEST(Window, OpensTheCataloguePage)
 
 TEST(Window, EveryPageComputesWithItsDefaults)
 {
+    // the Markov page remembers its matrix in the data folder: keep it in a temporary one
+    QTemporaryDir daten;
+    qputenv("XDG_DATA_HOME", daten.path().toUtf8());
     TForm17 w;
     w.setzeStartwert(17);
     ASSERT_EQ(seiten().size(), static_cast<size_t>(kSeitenAnzahl));
@@ -57,4 +61,13 @@ TEST(Window, EveryPageComputesWithItsDefaults)
     w.setzeFeld(1, "50");
     w.B1C();
     EXPECT_EQ(w.zeilen().value(0), "Personenzahl\t23");
+    // a Markov matrix that was used comes back in the next window
+    w.waehleSeite(9);
+    w.setzeFeld(0, "0,1 0,9\n0,4 0,6");
+    w.setzeFeld(2, "100");
+    w.B1C();
+    TForm17 w2;
+    w2.waehleSeite(9);
+    w2.B1C();
+    EXPECT_TRUE(w2.zeilen().contains("0 -> 1 = 0.9")) << w2.zeilen().join("\n").toStdString();
 }
