@@ -52,7 +52,15 @@ std::string zahl(double x, int stellen)
     return kernel::RealToStr(1, stellen, x);
 }
 
-std::string termZahl(double x) { return kernel::RealToStrDot(1, 8, x); }
+std::string termZahl(double x)
+{
+    // the interpreter knows no negative exponents: very small and very large constants go
+    // through EXP so that eight decimals never round them away
+    const double a = std::fabs(x);
+    if (x != 0 && std::isfinite(x) && (a < 1e-3 || a >= 1e12))
+        return std::string(x < 0 ? "(-" : "") + "EXP(" + kernel::RealToStrDot(1, 8, std::log(a)) + ")" + (x < 0 ? ")" : "");
+    return kernel::RealToStrDot(1, 8, x);
+}
 
 std::string termKlammer(double x) { return x < 0 ? "(" + termZahl(x) + ")" : termZahl(x); }
 
@@ -271,7 +279,7 @@ Anpassung anpassen(const std::vector<double>& x, const std::vector<double>& y, i
         f.a = sxy / sxx;
         // the line through the origin: correlation about zero, not about the means
         f.r = syy == 0 ? 1 : sxy / std::sqrt(sxx * syy);
-        f.term = termZahl(f.a) + "*X";
+        f.term = f.anzeige = termZahl(f.a) + "*X";
         f.gueltig = true;
         return f;
     }
@@ -283,8 +291,19 @@ Anpassung anpassen(const std::vector<double>& x, const std::vector<double>& y, i
     auto plus = [](double c) { return (c < 0 ? "-" : "+") + termZahl(std::fabs(c)); };
     switch (modell) {
     case 1: f.a = b; f.b = a; f.term = termZahl(b) + "*X" + plus(a); break;
-    case 3: f.a = std::exp(a); f.b = std::exp(b); f.term = termZahl(f.a) + "*" + termZahl(f.b) + "^X"; break;
-    case 4: f.a = std::exp(a); f.b = b; f.term = termZahl(f.a) + "*X^(" + termZahl(b) + ")"; break;
+    // the drawn term goes through EXP: the interpreter clamps intermediate powers like 1.09^2010
+    case 3:
+        f.a = std::exp(a);
+        f.b = std::exp(b);
+        f.anzeige = zahl(f.a) + "*" + zahl(f.b) + "^X";
+        f.term = "EXP(" + termZahl(a) + plus(b) + "*X)";
+        break;
+    case 4:
+        f.a = std::exp(a);
+        f.b = b;
+        f.anzeige = zahl(f.a) + "*X^(" + zahl(b) + ")";
+        f.term = "EXP(" + termZahl(a) + plus(b) + "*LN(X))";
+        break;
     default: {
         static const char* const teil[] = {"", "", "*LN(X)", "", "", "*SIN(X)", "/X", "*X^2", "*X^3", "/X^2"};
         f.a = a;
@@ -292,6 +311,7 @@ Anpassung anpassen(const std::vector<double>& x, const std::vector<double>& y, i
         f.term = termZahl(a) + plus(b) + teil[modell];
     }
     }
+    if (f.anzeige.empty()) f.anzeige = f.term;
     f.gueltig = true;
     return f;
 }
@@ -301,10 +321,13 @@ Zeilen anpassungZeilen(const std::vector<double>& x, const std::vector<double>& 
     const Anpassung f = anpassen(x, y, modell);
     if (!f.gueltig) return {f.fehler};
     Zeilen z = {"Anzahl der Wertepaare\t" + std::to_string(f.n), "Modell\t" + modellNamen()[modell],
-                "Korrelationsfunktion\tY = " + f.term, zeile("Korrelationskoeffizient", f.r),
-                zeile("Bestimmtheitsmaß", f.r * f.r)};
+                "Korrelationsfunktion\tY = " + f.anzeige,
+                zeile(modell <= 1 ? "M" : "A", f.a)};
+    if (modell > 0) z.push_back(zeile(modell == 1 ? "N" : "B", f.b));
+    z.insert(z.end(), {zeile("Korrelationskoeffizient", f.r),
+                zeile("Bestimmtheitsmaß", f.r * f.r)});
     if (bild) {
-        bild->titel = "Y = " + f.term;
+        bild->titel = "Y = " + f.anzeige;
         for (int i = 0; i < f.n; ++i) bild->punkte.push_back({x[i], y[i]});
         const auto [lo, hi] = std::minmax_element(x.begin(), x.begin() + f.n);
         const double rand = 0.05 * (*hi - *lo);

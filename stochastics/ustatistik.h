@@ -44,7 +44,8 @@ struct Anpassung {
     int n = 0;
     double a = 0, b = 0;   // the model's two constants (M and N for the straight lines)
     double r = 0;          // correlation coefficient of the transformed values
-    std::string term;      // in interpreter syntax
+    std::string term;      // in interpreter syntax, for drawing
+    std::string anzeige;   // the model's form with its constants, for the result list
 };
 Anpassung anpassen(const std::vector<double>& x, const std::vector<double>& y, int modell);
 Zeilen anpassungZeilen(const std::vector<double>& x, const std::vector<double>& y, int modell, Diagramm* bild = nullptr);

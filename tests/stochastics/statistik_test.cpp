@@ -107,6 +107,15 @@ TEST(Anpassung, AnscombeLineAndExactModels)
     const Zeilen z = anpassungZeilen(x, yl, 2, &d);
     ASSERT_FALSE(d.kurven.empty());
     for (const auto& p : d.kurven[0]) EXPECT_NEAR(p.second, 1 - 4 * std::log(p.first), 1e-6) << alle(z);
+    // a tiny constant keeps its value in the drawn term (growth over years: A near 1e-72);
+    // eight decimals in the term are enough for drawing (1e-4 relative)
+    const std::vector<double> jahre = {1970, 1980, 1990, 2000, 2010};
+    std::vector<double> schulden;
+    for (double j : jahre) schulden.push_back(64 * std::pow(1.09, j - 1970));
+    Diagramm gd;
+    const Zeilen zg = anpassungZeilen(jahre, schulden, 3, &gd);
+    ASSERT_FALSE(gd.kurven.empty());
+    EXPECT_NEAR(gd.kurven[0].back().second / (64 * std::pow(1.09, gd.kurven[0].back().first - 1970)), 1, 1e-4) << alle(zg);
     // models that need positive values refuse others
     EXPECT_FALSE(anpassen({-1, 2}, {1, 2}, 2).gueltig);
     EXPECT_FALSE(anpassen({1}, {1}, 1).gueltig);
