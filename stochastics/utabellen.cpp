@@ -83,7 +83,8 @@ std::string dichteTerm(const StetigeVerteilung& v)
     case Stetig::Maxwell:
         return "X^2*" + termZahl(std::sqrt(2 / M_PI) / (a * a * a)) + "*EXP(-X^2/(" + termZahl(2 * a * a) + "))";
     case Stetig::Weibull:
-        return B + "/" + A + "*(X/" + A + ")^(" + termZahl(b - 1) + ")*EXP(-(X/" + A + ")^" + B + ")";
+        // powers through LN keep the interpreter's sign rules out of the way
+        return termZahl(b / a) + "*EXP(" + termZahl(b - 1) + "*LN(X/" + A + ")-EXP(" + B + "*LN(X/" + A + ")))";
     default: return "";  // drawn from sampled values
     }
 }
@@ -106,6 +107,12 @@ Zeilen stetigeTabelle(const StetigeVerteilung& v, double von, double bis, int sc
     for (double a : kIrrtum) z.push_back(zahl(a) + "\t" + zahl(quantil(v, 1 - a)));
     if (bild) {
         bild->titel = stetigeNamen()[static_cast<int>(v.art)];
+        // kinds with a density term are drawn through the interpreter, the others from sampled values
+        const std::string term = dichteTerm(v);
+        if (!term.empty()) {
+            bild->kurven = termKurve(term, von, bis, 400);
+            return z;
+        }
         std::vector<Punkt> k;
         // sampled densities; infinite values at the border are left out
         for (int i = 0; i <= 400; ++i) {
