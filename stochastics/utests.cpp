@@ -42,9 +42,11 @@ Zeilen binomialTestZeilen(long n, double p0, long k, double alpha, bool zweiseit
     if (bild) {
         bild->titel = "Binomialverteilung n = " + std::to_string(n) + ", p = " + zahl(p0);
         const DiskreteVerteilung v{Diskret::Binomial, {double(n), p0}};
-        for (long i = 0; i <= n; ++i)
-            bild->balken.push_back({i - 0.4, 0.8, wahrscheinlichkeit(v, i), n <= 30 || i % 5 == 0 ? std::to_string(i) : "",
-                                    i < a.links || i > a.rechts});
+        // the far tails are invisible at any scale: leave them out
+        for (long i = 0; i <= n; ++i) {
+            const double p = wahrscheinlichkeit(v, i);
+            if (p >= 1e-5) bild->balken.push_back({i - 0.4, 0.8, p, std::to_string(i), i < a.links || i > a.rechts});
+        }
     }
     return z;
 }

@@ -147,11 +147,11 @@ void TForm17::baueSeite(int nr)
     spalte->addLayout(form);
     spalte->addStretch(1);
     form->setContentsMargins(0, 0, 0, 0);
-    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    form->setRowWrapPolicy(QFormLayout::DontWrapRows);
     for (int f = 0; f < static_cast<int>(s.felder.size()); ++f) {
         const Feld& feld = s.felder[f];
         auto* label = new QLabel(u(feld.name));
-        label->setWordWrap(true);
+        label->setWordWrap(feld.art == Feld::Text);
         QWidget* widget = nullptr;
         if (feld.art == Feld::Auswahl) {
             auto* cb = new QComboBox;
