@@ -96,7 +96,8 @@ TForm17::TForm17(QWidget* parent, int wahlseite, int wahlpunkt)
     LB2_->setColumnCount(6);
     LB2_->setHeaderHidden(true);
     LB2_->setRootIsDecorated(false);
-    LB2_->header()->setStretchLastSection(false);
+    // the stretched last section lets lines without columns run over the full width
+    LB2_->header()->setStretchLastSection(true);
     LB2_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     links->addWidget(LB2_, 1);
     auto* linksW = new QWidget;
