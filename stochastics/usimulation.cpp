@@ -571,6 +571,13 @@ Ergebnis markowSimulation(const Markow& m, int start, long schritte, Zufall& z, 
         e.bild.balken.push_back({i - 0.4, 0.8, s ? double(besuche[i]) / s : 0, "Zustand " + std::to_string(i)});
         if (!pi.empty()) e.bild.vergleich.push_back({double(i), pi[i]});
     }
+    // the law after a few steps shows how fast the start is forgotten
+    e.zeilen.push_back("Verteilung nach n Schritten ab Zustand " + std::to_string(start));
+    for (int n : {1, 2, 5, 10, 50}) {
+        std::string zeile = "n = " + std::to_string(n);
+        for (double p : markowSchritte(m, start, n)) zeile += "\t" + zahl(p, 4);
+        e.zeilen.push_back(zeile);
+    }
     e.bild.titel = "Aufenthaltsanteile der Zustände";
     return e;
 }

@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QPixmap>
+#include <QTimer>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <memory>
@@ -70,4 +71,21 @@ TEST(Window, EveryPageComputesWithItsDefaults)
     w2.waehleSeite(9);
     w2.B1C();
     EXPECT_TRUE(w2.zeilen().contains("0 -> 1 = 0.9")) << w2.zeilen().join("\n").toStdString();
+}
+
+TEST(Window, SecondPressStopsASimulation)
+{
+    TForm17 w(nullptr, 21);
+    w.setzeFeld(1, "100000000");
+    // the press arrives while the run yields to the message loop
+    QTimer::singleShot(50, &w, [&w] { w.B1C(); });
+    w.B1C();
+    const QStringList z = w.zeilen();
+    ASSERT_GE(z.size(), 2);
+    EXPECT_TRUE(z[1].startsWith("Testläufe\t"));
+    EXPECT_LT(z[1].mid(10).toLong(), 100000000L) << z[1].toStdString();
+    // the button is free again for the next run
+    w.setzeFeld(1, "10");
+    w.B1C();
+    EXPECT_EQ(w.zeilen().value(1), "Testläufe\t10");
 }
