@@ -8,6 +8,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
+
+// The page table names only the hooks a page needs; the others stay empty.
+#pragma GCC diagnostic ignored "-Wmissing-field-initializers"
 
 namespace zufall {
 
