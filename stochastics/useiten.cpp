@@ -275,6 +275,58 @@ std::vector<Seite> bauen()
 }
 }  // namespace
 
+std::string datengruppe(int seite)
+{
+    switch (seite) {
+    case 0:
+    case 14: return "dat";
+    case 4: return "kfi";
+    case 1:
+    case 2: return "kur";
+    case 16: return "kor";
+    case 3: return "wve";
+    case 9: return "mar";
+    case 15: return "vte";
+    default: return "ein";
+    }
+}
+
+std::vector<std::string> datenSchreiben(int seite, const Eingaben& e)
+{
+    std::vector<std::string> z = {datengruppe(seite), std::to_string(seite)};
+    for (const auto& feld : e) {
+        std::string t;
+        for (char ch : feld) {
+            if (ch == '\\') t += "\\\\";
+            else if (ch == '\n') t += "\\n";
+            else if (ch != '\r') t += ch;
+        }
+        z.push_back(t);
+    }
+    return z;
+}
+
+bool datenLesen(int seite, const std::vector<std::string>& zeilen, Eingaben& e)
+{
+    // pages of one group differ in their fields: the page itself must match
+    if (zeilen.size() != e.size() + 2 || zeilen[0] != datengruppe(seite) || zeilen[1] != std::to_string(seite))
+        return false;
+    for (size_t i = 0; i < e.size(); ++i) {
+        std::string t;
+        const std::string& z = zeilen[i + 2];
+        for (size_t k = 0; k < z.size(); ++k) {
+            if (z[k] == '\\' && k + 1 < z.size()) {
+                t += z[k + 1] == 'n' ? '\n' : z[k + 1];
+                ++k;
+            } else {
+                t += z[k];
+            }
+        }
+        e[i] = t;
+    }
+    return true;
+}
+
 double feldZahl(const std::string& text, double vorgabe)
 {
     if (text.find_first_not_of(" \t") == std::string::npos) return vorgabe;

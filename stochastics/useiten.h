@@ -38,6 +38,14 @@ struct Seite {
 const std::vector<Seite>& seiten();
 constexpr int kSeitenAnzahl = 22;
 
+// Saved inputs: the first line is the short key of the page's data group ("dat", "kfi", "kur",
+// "kor", "wve", "mar", "vte", "ein"), the second the page, then one line per field with line
+// breaks as "\\n".
+std::string datengruppe(int seite);
+std::vector<std::string> datenSchreiben(int seite, const Eingaben& e);
+// False (and `e` unchanged) when the lines belong to another page or have another field count.
+bool datenLesen(int seite, const std::vector<std::string>& zeilen, Eingaben& e);
+
 // A numeric field: a term is accepted wherever a number is expected; a fault gives `vorgabe`.
 double feldZahl(const std::string& text, double vorgabe);
 

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -92,6 +93,10 @@ TForm17::TForm17(QWidget* parent, int wahlseite, int wahlpunkt)
     L2_ = new QLabel;
     knoepfe->addWidget(L2_, 1);
     links->addLayout(knoepfe);
+    auto* laden = new QPushButton("Daten laden");
+    auto* sichern = new QPushButton("Daten speichern");
+    connect(laden, &QPushButton::clicked, this, [this] { datenLaden(); });
+    connect(sichern, &QPushButton::clicked, this, [this] { datenSpeichern(); });
     LB2_ = new QTreeWidget;
     LB2_->setColumnCount(6);
     LB2_->setHeaderHidden(true);
@@ -100,6 +105,10 @@ TForm17::TForm17(QWidget* parent, int wahlseite, int wahlpunkt)
     LB2_->header()->setStretchLastSection(true);
     LB2_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     links->addWidget(LB2_, 1);
+    auto* datenknoepfe = new QHBoxLayout;
+    datenknoepfe->addWidget(laden);
+    datenknoepfe->addWidget(sichern);
+    links->addLayout(datenknoepfe);
     auto* linksW = new QWidget;
     linksW->setLayout(links);
     linksW->setFixedWidth(330);
@@ -321,6 +330,31 @@ QStringList TForm17::zeilen() const
 }
 
 void TForm17::zeichne(platform::Canvas& c, int breite, int hoehe) const { zeichneDiagramm(c, breite, hoehe, bild_); }
+
+void TForm17::datenSpeichern()
+{
+    platform::StringList liste;
+    for (const auto& z : datenSchreiben(seite_, eingaben(seite_))) liste.push_back(platform::utf8ToCp1252(z));
+    platform::SaveTextFile(liste, this);
+}
+
+void TForm17::datenLaden()
+{
+    platform::StringList liste;
+    if (!platform::LoadTextFile(liste, this)) return;
+    for (auto& z : liste) z = platform::cp1252ToUtf8(z);
+    Eingaben e = eingaben(seite_);
+    if (!datenLesen(seite_, liste, e)) {
+        QMessageBox::information(this, "Quorix", "Die Datei enthält keine Daten dieser Seite.");
+        return;
+    }
+    setzeEingaben(e);
+}
+
+void TForm17::setzeEingaben(const Eingaben& e)
+{
+    for (size_t i = 0; i < e.size() && i < seiten_[seite_].felder.size(); ++i) setzeFeld(static_cast<int>(i), u(e[i]));
+}
 
 void TForm17::speichern()
 {

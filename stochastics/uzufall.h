@@ -60,6 +60,11 @@ private:
     zufall::Eingaben eingaben(int nr) const;
     void zeigeErgebnis(const zufall::Ergebnis& e);
     void speichern();
+    void datenSpeichern();
+    void datenLaden();
+
+public:
+    void setzeEingaben(const zufall::Eingaben& e);  // all fields of the current page
 
     int seite_ = 0;
     bool laeuft_ = false, stopp_ = false;

@@ -121,3 +121,22 @@ TEST(Seiten, InputsAcceptTermsAndExamples)
     const Ergebnis p = seiten()[10].rechne({"1", "2", "", "", ""}, z, {});
     EXPECT_EQ(p.zeilen[4], "0\t0.135335\t0.135335");
 }
+
+TEST(Seiten, SavedInputsComeBackOnTheirPageOnly)
+{
+    const Eingaben markow = {"0,5 0,5\n0,2 0,8", "1", "500"};
+    const auto zeilen = datenSchreiben(9, markow);
+    EXPECT_EQ(zeilen[0], "mar");
+    EXPECT_EQ(zeilen[2], "0,5 0,5\\n0,2 0,8");  // one line per field
+    Eingaben e(3);
+    ASSERT_TRUE(datenLesen(9, zeilen, e));
+    EXPECT_EQ(e, markow);
+    // backslashes survive; another page of the same group refuses the lines
+    const Eingaben werte = {"0", "1 2\\3"};
+    Eingaben w(2), t(4, "x");
+    ASSERT_TRUE(datenLesen(0, datenSchreiben(0, werte), w));
+    EXPECT_EQ(w, werte);
+    EXPECT_EQ(datengruppe(14), "dat");
+    EXPECT_FALSE(datenLesen(14, datenSchreiben(0, werte), t));
+    EXPECT_EQ(t, Eingaben(4, "x"));
+}
