@@ -9,6 +9,7 @@
 #include "dynamics/commands.h"
 #include "games/commands.h"
 #include "geometry/commands.h"
+#include "stochastics/commands.h"
 #include "graphs/commands.h"
 #include "numbers/commands.h"
 #include "numbers/factor/factorcommands.h"
@@ -329,7 +330,7 @@ std::vector<quorix::HeadlessCommand> alleBefehle()
     std::vector<quorix::HeadlessCommand> alle = appCommands();
     for (auto* satz : {&kernel::kernelCommands, &quorix::termCommands, &platform::platformCommands, &crypto::cryptoCommands,
                        &::astronomyCommands, &::numbersCommands, &graphs::graphsCommands,
-                       &::factorCommands, &::gamesCommands, &::dynamicsCommands, &::chaosCommands, &::geometryCommands}) {
+                       &::factorCommands, &::gamesCommands, &::dynamicsCommands, &::chaosCommands, &::geometryCommands, &::stochasticsCommands}) {
         auto mehr = satz();
         alle.insert(alle.end(), mehr.begin(), mehr.end());
     }

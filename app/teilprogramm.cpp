@@ -6,6 +6,7 @@
 #include "dynamics/windows.h"
 #include "games/windows.h"
 #include "geometry/windows.h"
+#include "stochastics/windows.h"
 #include "graphs/windows.h"
 #include "numbers/windows.h"
 #include "numbers/factor/factorwindows.h"
@@ -61,7 +62,7 @@ const std::vector<WerkzeugEintrag>& werkzeugtabelle()
             {8, A::A, "TFalgebra", {}},     {9, A::A, "TFkalend", mitSeite(::createTFkalend)},     {10, A::A, "Tf2048", {}},
             {11, A::A, "TFpoly", {}},       {12, A::A, "TFintegra", mitSeite(graphs::createTFintegra)},   {13, A::A, "TForm13", {}},
             {14, A::A, "TForm14", mitSeite(dynamics::createTForm14)},      {15, A::A, "TFphy", {}},       {16, A::A, "TForm16", {}},
-            {17, A::A, "TForm17", {}},      {18, A::A, "Ttranskoord", {}}, {19, A::B, "Tfphase", ::createTfphase},
+            {17, A::A, "TForm17", mitSeite(::createTForm17)},      {18, A::A, "Ttranskoord", {}}, {19, A::B, "Tfphase", ::createTfphase},
             {20, A::A, "TForm20", {}},      {21, A::A, "TForm21", {}},     {22, A::A, "TForm22", {}},
             {23, A::A, "TForm23", mitSeite(crypto::createTForm23)},      {24, A::A, "TForm24", {}},     {25, A::A, "TxDreieck", mitSeite(::createTxDreieck)},
             {26, A::A, "TFourier1", {}},    {27, A::A, "Troform", {}},     {28, A::B, "Tfaktform", ::createTfaktform},

@@ -240,6 +240,8 @@ void TForm17::waehleSeite(int nr, int punkt)
     LB2_->clear();
     bild_ = {};
     PB1_->update();
+    // a page that only calculates shows its result at once; simulations wait for their button
+    if (!s.simulation) B1C();
 }
 
 void TForm17::setzeFeld(int feld, const QString& text)
