@@ -13,15 +13,8 @@ namespace {
 const char* kAufruf =
     "Aufruf: quorix dreieck AX AY BX BY CX CY [--objekt NAME]... [--alle] [--trilinear]";
 
-bool zahl(const std::string& s, double& v)
-{
-    if (s.empty()) return false;
-    std::string t = s;
-    std::replace(t.begin(), t.end(), ',', '.');
-    char* end = nullptr;
-    v = std::strtod(t.c_str(), &end);
-    return end && *end == '\0' && std::isfinite(v) && std::fabs(v) < 1e6;
-}
+// coordinates beyond a million units are refused: the picture works in screen pixels
+bool zahl(const std::string& s, double& v) { return quorix::argNumber(s, v) && std::fabs(v) < 1e6; }
 
 int cmdDreieck(Args a, std::ostream& out, std::ostream& err)
 {
