@@ -344,4 +344,12 @@ Punkt tafelpunkt(const Punkt& p, Tafel t)
     return p;
 }
 
+Koerper ansicht(const Koerper& k, Tafel t)
+{
+    Koerper r = k;
+    for (Punkt& p : r.ecken) p = tafelpunkt(p, t);
+    for (Punkt& p : r.mitten) p = tafelpunkt(p, t);
+    return r;
+}
+
 }  // namespace poly

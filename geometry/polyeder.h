@@ -69,5 +69,8 @@ bool sichtbar(const Koerper& k, int f);
 // the right. Returns (horizontal, downward) on the sheet.
 enum class Tafel { Aufriss, Grundriss, Seitenriss };
 Punkt tafelpunkt(const Punkt& p, Tafel t);
+// The solid as seen on a sheet: vertices and centres mapped by tafelpunkt (a proper rotation,
+// so visibility and painter's order work there as in the main view).
+Koerper ansicht(const Koerper& k, Tafel t);
 
 }  // namespace poly
