@@ -82,7 +82,9 @@ void zeichneKoerper(Canvas& c, const Koerper& k, const Darstellung& d, double cx
             if (len <= 0) continue;
             const double licht = -n.z / len;
             const TColor basis = d.bunteFlaechen ? bunteFarbe(k.flaechen[fi].size()) : rgb(110, 150, 230);
-            c.setBrushColor(licht > 0 ? schattiert(basis, licht) : rgb(150, 150, 150));
+            // a closed surface is seen only through faces turned to the viewer
+            if (licht <= 1e-9) continue;
+            c.setBrushColor(schattiert(basis, licht));
             std::vector<QPoint> pts;
             for (int i : k.flaechen[fi]) pts.push_back(bild(k.ecken[i], cx, cy, f));
             c.polygon(pts);
@@ -177,30 +179,29 @@ void zeichneTafeln(Canvas& c, const Koerper& k, const Darstellung& d, const Rahm
     c.setPenStyle(platform::PenStyle::Solid);
 }
 
-void zeichneTabelle(Canvas& c, const Koerper& k, const Rahmen& r)
+void zeichneTabelle(Canvas& c, const Koerper& k, const Rahmen& r, double f)
 {
     c.setFontName("Verdana");
     c.setFontSize(9);
     c.setFontStyle(platform::fsBold);
     c.setFontColor(rgb(0, 0, 128));
     c.setBrushStyle(platform::BrushStyle::Clear);
-    const int spalten[4] = {r.x0 + 4, r.x0 + 44, r.x0 + 114, r.x0 + 184};
+    const int spalten[4] = {r.x0 + 4, r.x0 + 56, r.x0 + 124, r.x0 + 192};
     const char* kopf[4] = {"Punkt", "x", "y", "z"};
     for (int i = 0; i < 4; ++i) c.textOut(spalten[i], r.y0, kopf[i]);
     c.setFontStyle(0);
     c.setFontColor(rgb(0, 0, 0));
     const int zeilenhoehe = 16;
     int y = r.y0 + 20;
-    const double f = 1.0;
     for (size_t i = 0; i < k.ecken.size(); ++i) {
         if (y + zeilenhoehe > r.y1) {
             c.textOut(spalten[0], y, "...");
             break;
         }
         c.textOut(spalten[0], y, "P" + std::to_string(i + 1));
-        c.textOut(spalten[1], y, kernel::RealToStr(1, 2, k.ecken[i].x * f));
-        c.textOut(spalten[2], y, kernel::RealToStr(1, 2, k.ecken[i].y * f));
-        c.textOut(spalten[3], y, kernel::RealToStr(1, 2, k.ecken[i].z * f));
+        c.textOut(spalten[1], y, kernel::RealToStr(1, 3, k.ecken[i].x * f));
+        c.textOut(spalten[2], y, kernel::RealToStr(1, 3, k.ecken[i].y * f));
+        c.textOut(spalten[3], y, kernel::RealToStr(1, 3, k.ecken[i].z * f));
         y += zeilenhoehe;
     }
 }
@@ -216,11 +217,12 @@ void zeichnePolyeder(Canvas& c, int breite, int hoehe, const Koerper& k, const D
         c.setFontStyle(0);
         c.setFontColor(rgb(80, 80, 80));
         c.setBrushStyle(platform::BrushStyle::Clear);
-        c.textOutW(16, hoehe - 22, QString::fromUtf8(d.unterzeile.c_str()));
+        c.textOutW(16, hoehe - 38, QString::fromUtf8(d.unterzeile.c_str()));
+        c.textOutW(16, hoehe - 20, QString::fromUtf8(d.unterzeile2.c_str()));
     }
-    Rahmen r{16, 58, breite - 16, hoehe - 28};
+    Rahmen r{16, 58, breite - 16, hoehe - 44};
     if (d.koordinatentabelle) {
-        zeichneTabelle(c, k, Rahmen{breite - 250, 60, breite - 8, hoehe - 28});
+        zeichneTabelle(c, k, Rahmen{breite - 256, 62, breite - 8, hoehe - 44}, d.tabellenFaktor);
         r.x1 = breite - 260;
     }
     if (k.ecken.empty()) return;

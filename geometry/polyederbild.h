@@ -17,8 +17,10 @@ struct Darstellung {
     bool dreitafel = false;
     bool koordinatentabelle = false;
     bool punkteHervorheben = false;
+    double tabellenFaktor = 1;  // the table shows coordinates times this (back to the data's unit)
     std::string titel;      // UTF-8
-    std::string unterzeile;  // UTF-8, e.g. the turn angles
+    std::string unterzeile;   // UTF-8: counts and turn angles
+    std::string unterzeile2;  // UTF-8: measures
 };
 
 // The solid is expected already scaled to pixels around the origin.

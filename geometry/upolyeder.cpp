@@ -70,10 +70,10 @@ TFpoly::TFpoly(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(parent)
     setWindowTitle("Quorix");
     setFixedSize(1008, 710);
     daten_ = poly::ladeKoerperDaten(textContainer().empty() ? poly::standardTextContainer() : textContainer());
-    baueOberflaeche();
     Timer1_ = new QTimer(this);
     Timer1_->setInterval(50);
     connect(Timer1_, &QTimer::timeout, this, &TFpoly::Timer1Timer);
+    baueOberflaeche();
     const int art = wahlseite >= 0 && wahlseite <= 5 ? wahlseite : 0;
     polyederart_->button(art)->setChecked(true);
     artGewaehlt(art);
@@ -82,6 +82,7 @@ TFpoly::TFpoly(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(parent)
 
 void TFpoly::baueOberflaeche()
 {
+    PB1_ = new TPolyFlaeche(this);
     auto* haupt = new QHBoxLayout(this);
     haupt->setContentsMargins(6, 6, 6, 6);
     auto* links = new QVBoxLayout;
@@ -180,7 +181,6 @@ void TFpoly::baueOberflaeche()
     links->addLayout(schalter);
     links->addStretch();
 
-    PB1_ = new TPolyFlaeche(this);
     haupt->addWidget(PB1_, 1);
 }
 
@@ -205,6 +205,8 @@ QStringList TFpoly::namen() const
 bool TFpoly::waehle(int art, const QString& name)
 {
     if (art < 0 || art > 5) return false;
+    const auto liste = poly::koerperNamen(daten_, art);
+    if (std::find(liste.begin(), liste.end(), name.toStdString()) == liste.end()) return false;
     polyederart_->button(art)->setChecked(true);
     if (art != art_) artGewaehlt(art);
     const auto treffer = LB1_->findItems(name, Qt::MatchExactly);
@@ -318,6 +320,7 @@ poly::Darstellung TFpoly::darstellung() const
     d.dreitafel = schalter_[sDrei]->isChecked();
     d.koordinatentabelle = schalter_[sTabelle]->isChecked();
     d.punkteHervorheben = schalter_[sPunkte]->isChecked();
+    if (!form_.ecken.empty()) d.tabellenFaktor = poly::umkugelradius(form_) / bildgroesse_->value();
     if (LB1_->currentItem()) d.titel = LB1_->currentItem()->text().toStdString();
     if (art_ == poly::Abstumpfungen || art_ == poly::Sternkoerper)
         d.titel += "  (" + kernel::RealToStr(1, 2, verformung_) + ")";
@@ -326,11 +329,11 @@ poly::Darstellung TFpoly::darstellung() const
         double lo, hi;
         poly::kantenlaengen(form_, lo, hi);
         d.unterzeile = "Ecken " + std::to_string(e) + ", Kanten " + std::to_string(k) + ", Flächen " +
-                       std::to_string(f) + ", e − k + f = " + std::to_string(long(e) - long(k) + long(f)) +
-                       "   Volumen " + zahl(poly::volumen(form_)) + ", Oberfläche " + zahl(poly::oberflaeche(form_)) +
-                       (std::fabs(hi - lo) < 1e-9 ? " bei Kantenlänge " + zahl(lo) : "") + "   Drehung " +
-                       kernel::RealToStr(1, 0, summe_[0]) + "°, " + kernel::RealToStr(1, 0, summe_[1]) + "°, " +
-                       kernel::RealToStr(1, 0, summe_[2]) + "°";
+                       std::to_string(f) + "   e − k + f = " + std::to_string(long(e) - long(k) + long(f)) +
+                       "   Drehung " + kernel::RealToStr(1, 0, summe_[0]) + "°, " +
+                       kernel::RealToStr(1, 0, summe_[1]) + "°, " + kernel::RealToStr(1, 0, summe_[2]) + "°";
+        d.unterzeile2 = "Volumen " + zahl(poly::volumen(form_)) + "   Oberfläche " + zahl(poly::oberflaeche(form_)) +
+                        (std::fabs(hi - lo) < 1e-9 ? "   bei Kantenlänge " + zahl(lo) : "");
     }
     return d;
 }
