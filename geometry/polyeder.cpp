@@ -105,7 +105,28 @@ bool leseKoerper(const std::vector<std::string>& zeilen, int art, int index, Koe
             if (!(in >> p.x >> p.y >> p.z)) return false;
             ecken.push_back(p);
         }
-        k = konvexerKoerper(namen[index], std::move(ecken));
+        // optional face lines "F i j k ..." (1-based) for solids that are not convex
+        std::vector<std::vector<int>> flaechen;
+        for (int j = i + 2 + anzahl; j < ende; ++j) {
+            const std::string s = ohneRand(zeilen[j]);
+            if (s.empty() || s[0] != 'F') break;
+            std::istringstream in(s.substr(1));
+            std::vector<int> f;
+            for (int v; in >> v;) {
+                if (v < 1 || v > anzahl) return false;
+                f.push_back(v - 1);
+            }
+            if (f.size() < 3) return false;
+            flaechen.push_back(f);
+        }
+        if (flaechen.empty()) {
+            k = konvexerKoerper(namen[index], std::move(ecken));
+        } else {
+            k.name = namen[index];
+            k.ecken = std::move(ecken);
+            k.flaechen = std::move(flaechen);
+            berechneMitten(k);
+        }
         return !k.flaechen.empty();
     }
     return false;

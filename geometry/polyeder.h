@@ -31,6 +31,8 @@ const std::vector<std::string>& artNamen();
 // Names of a family as the list LB1 shows them (" Abstumpfung" appended in family 4).
 std::vector<std::string> koerperNamen(const std::vector<std::string>& zeilen, int art);
 // Reads entry `index` (0-based) of family `art`; false when the entry or its section is missing.
+// A section lists its vertices, then optionally its faces as lines "F i j k ..." (1-based,
+// counter-clockwise from outside); without them the faces are those of the convex hull.
 bool leseKoerper(const std::vector<std::string>& zeilen, int art, int index, Koerper& k);
 // Finds a solid by its name in any family (case-sensitive, without " Abstumpfung").
 bool sucheKoerper(const std::vector<std::string>& zeilen, const std::string& name, Koerper& k);

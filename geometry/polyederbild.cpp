@@ -72,8 +72,8 @@ void zeichneKoerper(Canvas& c, const Koerper& k, const Darstellung& d, double cx
 {
     const bool flaechen = d.farbigeFlaechen || d.bunteFlaechen;
     if (flaechen) {
-        c.setPenColor(rgb(40, 40, 40));
-        c.setPenWidth(1);
+        // outlines go with their faces, so edges behind nearer faces stay covered
+        c.setPenWidth(d.kantenmodell && k.flaechen.size() <= 60 ? 2 : 1);
         c.setPenStyle(platform::PenStyle::Solid);
         c.setBrushStyle(platform::BrushStyle::Solid);
         for (int fi : zeichenreihenfolge(k)) {
@@ -85,17 +85,18 @@ void zeichneKoerper(Canvas& c, const Koerper& k, const Darstellung& d, double cx
             // a closed surface is seen only through faces turned to the viewer
             if (licht <= 1e-9) continue;
             c.setBrushColor(schattiert(basis, licht));
+            c.setPenColor(d.kantenmodell ? rgb(0, 0, 128) : schattiert(basis, licht * 0.8));
             std::vector<QPoint> pts;
             for (int i : k.flaechen[fi]) pts.push_back(bild(k.ecken[i], cx, cy, f));
             c.polygon(pts);
         }
     }
-    if (d.kantenmodell || !flaechen) {
+    if (!flaechen || d.verdeckteKanten) {
         const auto hinten = verdeckt(k);
         for (const Kante& e : kanten(k)) {
             const bool h = hinten.at({e.a, e.b});
+            if (flaechen && !h) continue;  // drawn with the faces
             if (h && !d.verdeckteKanten) {
-                if (flaechen) continue;
                 // plain wire frame: every edge, the hidden ones lighter
                 c.setPenColor(rgb(120, 120, 170));
                 c.setPenStyle(platform::PenStyle::Solid);

@@ -88,7 +88,8 @@ TEST(Polyeder, AlleEintraegeSindGeschlosseneKoerper)
         for (size_t i = 0; i < namen.size(); ++i) {
             poly::Koerper k;
             ASSERT_TRUE(poly::leseKoerper(daten(), art, static_cast<int>(i), k)) << namen[i];
-            EXPECT_EQ(eulerZahl(k), 2) << namen[i];
+            // the ring has a hole: e - k + f = 0
+            EXPECT_EQ(eulerZahl(k), namen[i] == "Hohlzylinder" ? 0 : 2) << namen[i];
             EXPECT_GT(poly::volumen(k), 0) << namen[i];
         }
     }
@@ -106,6 +107,20 @@ TEST(Polyeder, FehlendeEintraegeLiefernNichts)
     EXPECT_TRUE(poly::leseKoerper({"{0", "Tetraeder", "[1]", "4", "1 1 1", "1 -1 -1", "-1 1 -1", "-1 -1 1"},
                                   poly::Polyeder, 0, k));
     EXPECT_EQ(k.flaechen.size(), 4u);
+}
+
+// A solid with listed faces: the hollow cylinder of radii 1 and 0.6, height 1.5, 36 sides.
+TEST(Polyeder, FlaechenAusDerRessource)
+{
+    const poly::Koerper k = hole("Hohlzylinder");
+    EXPECT_EQ(k.ecken.size(), 144u);
+    EXPECT_EQ(poly::kanten(k).size(), 288u);
+    EXPECT_EQ(k.flaechen.size(), 144u);
+    const double ring = 18 * std::sin(2 * M_PI / 36) * (1 - 0.36) * 1.5;  // prism over the polygon ring
+    EXPECT_NEAR(poly::volumen(k), ring, 1e-9) << "erwartet " << ring;
+    poly::Koerper falsch;
+    EXPECT_FALSE(poly::leseKoerper({"{0", "Kaputt", "[1]", "4", "0 0 0", "1 0 0", "0 1 0", "0 0 1", "F 1 2 9"},
+                                   poly::Polyeder, 0, falsch));
 }
 
 // Truncation at its limits and at the points where known Archimedean solids appear.

@@ -113,6 +113,13 @@ TEST(PolyederFenster, TimerUndMausDrehen)
     EXPECT_EQ(w.koerper().ecken.size(), 15u);
     EXPECT_FALSE(w.waehle(0, "Zwölfflach"));
     EXPECT_EQ(w.koerper().ecken.size(), 15u);  // a refused name keeps the solid
+    // a ring with listed faces: painted faces show its hole
+    ASSERT_TRUE(w.waehle(1, "Hohlzylinder"));
+    EXPECT_EQ(w.koerper().flaechen.size(), 144u);
+    w.setzeOption("farbige Flächen", true);
+    w.show();
+    speichere(&w, "polyeder_hohlzylinder.png");
+    ASSERT_TRUE(w.waehle(3, QString::fromUtf8("Fünfseitige Kuppel (J5)")));
     w.setzeOption("Dreitafel-Projektion", true);
     w.setzeOption("farbige Flächen", true);
     w.setzeOption("bunte Flächen", false);
