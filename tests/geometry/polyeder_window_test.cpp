@@ -6,6 +6,7 @@
 #include "platform/container.h"
 
 #include <QMouseEvent>
+#include <QDoubleSpinBox>
 #include <QSpinBox>
 #include <QPixmap>
 #include <gtest/gtest.h>
@@ -78,6 +79,33 @@ TEST(PolyederFenster, OeffnetAufKatalogeintrag)
     s->setzeOption("bunte Flächen", false);
     s->show();
     speichere(s, "polyeder_abstumpfung.png");
+}
+
+// The continuous deformation runs the truncation up to the edge midpoints: the cube becomes
+// the cuboctahedron; the stellation family sets pyramids on the faces.
+TEST(PolyederFenster, StetigeVerformung)
+{
+    TFpoly::setzeTextContainer(baueContainer());
+    TFpoly w(nullptr, 4, 1);
+    auto* spin = w.findChild<QDoubleSpinBox*>();
+    ASSERT_NE(spin, nullptr);
+    spin->setValue(0.48);
+    EXPECT_EQ(w.koerper().ecken.size(), 24u);
+    w.setzeOption("stetige Verformung", true);
+    w.Timer1Timer();
+    w.Timer1Timer();
+    EXPECT_DOUBLE_EQ(spin->value(), 0.5);
+    EXPECT_EQ(w.koerper().ecken.size(), 12u);
+    EXPECT_EQ(w.koerper().flaechen.size(), 14u);
+    w.Timer1Timer();  // and back again
+    EXPECT_EQ(w.koerper().ecken.size(), 24u);
+
+    TFpoly stern(nullptr, 5, 4);  // icosahedron with pyramids
+    stern.findChild<QDoubleSpinBox*>()->setValue(0.5);
+    EXPECT_EQ(stern.koerper().ecken.size(), 32u);
+    EXPECT_EQ(stern.koerper().flaechen.size(), 60u);
+    stern.show();
+    speichere(&stern, "polyeder_stern.png");
 }
 
 TEST(PolyederFenster, TimerUndMausDrehen)
