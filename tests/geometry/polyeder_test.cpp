@@ -123,6 +123,24 @@ TEST(Polyeder, FlaechenAusDerRessource)
                                    poly::Polyeder, 0, falsch));
 }
 
+// The rhombohedron of 72-degree rhombi cut at both tips: six pentagons and two triangles,
+// all twelve vertices on one sphere.
+TEST(Polyeder, DuererPolyeder)
+{
+    const poly::Koerper k = hole("Dürer-Polyeder");
+    EXPECT_EQ(k.ecken.size(), 12u);
+    EXPECT_EQ(poly::kanten(k).size(), 18u);
+    int fuenfecke = 0, dreiecke = 0;
+    for (const auto& f : k.flaechen) {
+        fuenfecke += f.size() == 5;
+        dreiecke += f.size() == 3;
+    }
+    EXPECT_EQ(fuenfecke, 6);
+    EXPECT_EQ(dreiecke, 2);
+    const double r = poly::umkugelradius(k);
+    for (const auto& p : k.ecken) EXPECT_NEAR(std::sqrt(p.x * p.x + p.y * p.y + p.z * p.z), r, 1e-9);
+}
+
 // Truncation at its limits and at the points where known Archimedean solids appear.
 TEST(Polyeder, AbstumpfungGrenzen)
 {
