@@ -131,6 +131,10 @@ int cmdPolyeder(Args a, std::ostream& out, std::ostream& err)
         poly::Darstellung d;
         d.bunteFlaechen = true;
         d.titel = k.name;
+        d.unterzeile = "Ecken " + std::to_string(k.ecken.size()) + ", Kanten " + std::to_string(kanten.size()) +
+                       ", Flächen " + std::to_string(k.flaechen.size());
+        d.unterzeile2 = "Volumen " + kernel::RealToStr(1, 4, poly::volumen(k)) + "   Oberfläche " +
+                        kernel::RealToStr(1, 4, poly::oberflaeche(k));
         try {
             platform::writePictureFile(png, platform::PictureFormat::Png, 740, 600,
                                        [&](platform::Canvas& c, int w, int h) { poly::zeichnePolyeder(c, w, h, b, d); });

@@ -92,7 +92,7 @@ TEST(PolyederBefehl, BildDatei)
 {
     const std::string pfad = (std::filesystem::temp_directory_path() / "quorix_polyeder_test.png").string();
     std::remove(pfad.c_str());
-    const Ergebnis r = rufe({"Rhombenkuboktaeder", "--png", pfad, "--drehung", "20", "30", "0"});
+    const Ergebnis r = rufe({"Dürer-Polyeder", "--png", pfad, "--drehung", "20", "100", "0"});
     ASSERT_EQ(r.code, 0) << r.err;
     EXPECT_GT(std::filesystem::file_size(pfad), 1000u);
 }
