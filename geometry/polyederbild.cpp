@@ -122,13 +122,23 @@ void zeichneKoerper(Canvas& c, const Koerper& k, const Darstellung& d, double cx
         c.setBrushStyle(platform::BrushStyle::Solid);
         c.setBrushColor(rgb(200, 0, 0));
         c.setPenColor(rgb(200, 0, 0));
+        // a vertex counts as seen when one of its faces is turned to the viewer
+        std::vector<bool> vorn(k.ecken.size(), false);
+        for (size_t fi = 0; fi < k.flaechen.size(); ++fi)
+            if (sichtbar(k, static_cast<int>(fi)))
+                for (int i : k.flaechen[fi]) vorn[i] = true;
         for (size_t i = 0; i < k.ecken.size(); ++i) {
             const QPoint p = bild(k.ecken[i], cx, cy, f);
-            c.ellipse(p.x() - 3, p.y() - 3, p.x() + 4, p.y() + 4);
+            const TColor farbe = vorn[i] ? rgb(200, 0, 0) : rgb(230, 160, 160);
+            c.setBrushColor(farbe);
+            c.setPenColor(farbe);
+            const int r = vorn[i] ? 3 : 2;
+            c.ellipse(p.x() - r, p.y() - r, p.x() + r + 1, p.y() + r + 1);
         }
         c.setBrushStyle(platform::BrushStyle::Clear);
         for (size_t i = 0; i < k.ecken.size(); ++i) {
             const QPoint p = bild(k.ecken[i], cx, cy, f);
+            c.setFontColor(vorn[i] ? rgb(160, 0, 0) : rgb(200, 150, 150));
             c.textOut(p.x() + 5, p.y() - 16, "P" + std::to_string(i + 1));
         }
     }

@@ -6,6 +6,7 @@
 #include "platform/container.h"
 
 #include <QMouseEvent>
+#include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QSpinBox>
 #include <QPixmap>
@@ -125,6 +126,21 @@ TEST(PolyederFenster, TimerUndMausDrehen)
     const poly::Koerper still = w.koerper();
     for (int i = 0; i < 5; ++i) w.Timer1Timer();
     for (size_t i = 0; i < still.ecken.size(); ++i) EXPECT_NEAR(abstand(w.koerper().ecken[i], still.ecken[i]), 0, 1e-12);
+
+    // marked vertices; the two- and three-plane views exclude each other
+    w.setzeOption("Punkte hervorheben", true);
+    w.show();
+    speichere(&w, "polyeder_punkte.png");
+    w.setzeOption("Dreitafel-Projektion", true);
+    w.setzeOption("Zweitafel-Projektion", true);
+    QCheckBox* drei = nullptr;
+    for (auto* c : w.findChildren<QCheckBox*>())
+        if (c->text() == "Dreitafel-Projektion") drei = c;
+    ASSERT_NE(drei, nullptr);
+    EXPECT_FALSE(drei->isChecked());
+    speichere(&w, "polyeder_zweitafel.png");
+    w.setzeOption("Zweitafel-Projektion", false);
+    w.setzeOption("Punkte hervorheben", false);
 
     // dragging turns it
     QMouseEvent druck(QEvent::MouseButtonPress, QPointF(100, 100), QPointF(100, 100), Qt::LeftButton, Qt::LeftButton,
