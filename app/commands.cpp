@@ -9,6 +9,7 @@
 #include "dynamics/commands.h"
 #include "games/commands.h"
 #include "geometry/commands.h"
+#include "geometry/poly_commands.h"
 #include "stochastics/commands.h"
 #include "graphs/commands.h"
 #include "numbers/commands.h"
@@ -330,7 +331,7 @@ std::vector<quorix::HeadlessCommand> alleBefehle()
     std::vector<quorix::HeadlessCommand> alle = appCommands();
     for (auto* satz : {&kernel::kernelCommands, &quorix::termCommands, &platform::platformCommands, &crypto::cryptoCommands,
                        &::astronomyCommands, &::numbersCommands, &graphs::graphsCommands,
-                       &::factorCommands, &::gamesCommands, &::dynamicsCommands, &::chaosCommands, &::geometryCommands, &::stochasticsCommands}) {
+                       &::factorCommands, &::gamesCommands, &::dynamicsCommands, &::chaosCommands, &::geometryCommands, &::polyCommands, &::stochasticsCommands}) {
         auto mehr = satz();
         alle.insert(alle.end(), mehr.begin(), mehr.end());
     }
