@@ -33,9 +33,9 @@ const std::vector<Thema>& themen()
         t("Eigenschaften einer Zahl", {"Zahl"}, {"496"}, {}, "Eigenschaft\t\tWert"),
         t("Komplexe Zahl, Berechnung", {"Realteil a", "Imaginärteil a", "Realteil b", "Imaginärteil b"},
           {"3", "4", "", ""}, {}, "Größe\tWert"),
-        fehlt("Addington-Ketten"),
+        t("Addington-Ketten", {"Zahl n"}, {"127"}, {}, "Glied\tWert\tBildung"),
         fehlt("Dämmerung"),
-        fehlt("Waring-Problem"),
+        t("Waring-Problem", {"von", "bis"}, {"1", "100"}, {"Quadrate", "Kuben", "Biquadrate"}, "Zahl\tAnzahl\tZerlegung"),
         fehlt("Sonnen- und Mondfinsternisse"),
         t("Iterationsberechnung", {"Term f(X)", "Startwert X0", "Parameter P", "Anzahl"}, {"P*X*(1-X)", "0.5", "3.2", "30"},
           {}, "Schritt\tx\tÄnderung"),
@@ -68,7 +68,8 @@ const std::vector<Thema>& themen()
            "Umkehrbare Primz.", "Germain-Primz.", "Primzahlen der Form 4N+1", "Gute Primzahlen", "n.Primzahl",
            "Anzahl bis n"},
           "Primzahlen"),
-        fehlt("Zahlwörter"),
+        t("Zahlwörter", {"von", "bis"}, {"1", "100"}, {"Deutsch", "Englisch", "Französisch", "Italienisch", "Spanisch"},
+          "Zahl\tZahlwort"),
         t("Primzahltupel", {"von", "bis", "Muster (Abstände)"}, {"1", "100000", "0 2 6 8 12"}, {}, "Tupel"),
         fehlt("Planetenkonjunktion"),
         fehlt("Rivera-Vermutung"),
@@ -163,10 +164,10 @@ Ergebnis berechne(int thema, const Eingabe& eingabe, const Fortschritt& fortschr
     Lauf l{eingabe, erg, fortschritt};
     using Routine = void (*)(Lauf&);
     static const Routine routinen[ThemenAnzahl] = {
-        pythagoras, nullptr, fastPythagoras, teiler, algo196, eigenschaften, komplex, nullptr, nullptr, nullptr,
+        pythagoras, nullptr, fastPythagoras, teiler, algo196, eigenschaften, komplex, additionsketten, nullptr, waringThema,
         nullptr, iteration, zinsen, goldbach, collatz, partitionenThema, fibonacciThema, untersuchung, befreundet,
         feiertage, gadisch, annuitaet, distanz, cunningham, nullptr, nullptr, moser, kombinatorik, primzahlen,
-        nullptr, tupel, nullptr, nullptr, zerlegungThema, ggtKgv, heron, nullptr, aliquot, nullptr, bernoulliThema};
+        zahlwoerter, tupel, nullptr, nullptr, zerlegungThema, ggtKgv, heron, nullptr, aliquot, nullptr, bernoulliThema};
     if (thema < 0 || thema >= ThemenAnzahl || !routinen[thema]) {
         l.fehler("Dieses Thema ist in dieser Ausgabe nicht enthalten.");
         return erg;

@@ -58,6 +58,12 @@ std::string binomial(int n, int k);
 std::string fibonacci(int n);
 std::string lucas(int n);
 std::string partitionen(int n);
+// The cardinal of 0 <= n < 10^12 as a word: 0 German, 1 English, 2 French, 3 Italian, 4 Spanish.
+std::string zahlwort(int64_t n, int sprache);
+// A shortest addition chain 1 = a0 < a1 < ... < ar = n, each a sum of two earlier members.
+std::vector<int64_t> additionskette(int64_t n);
+// The bases of a shortest sum of k-th powers equal to n, descending.
+std::vector<int64_t> waring(int64_t n, int k);
 // Numerator and denominator of the Bernoulli number B(n), sign on the numerator.
 std::pair<std::string, std::string> bernoulli(int n);
 

@@ -56,7 +56,10 @@ void cunningham(Lauf& l);        // 23
 void moser(Lauf& l);             // 26
 void kombinatorik(Lauf& l);      // 27
 void primzahlen(Lauf& l);        // 28
-void tupel(Lauf& l);             // 30
+void zahlwoerter(Lauf& l);      // 29
+void tupel(Lauf& l);
+void additionsketten(Lauf& l);  // 7
+void waringThema(Lauf& l);      // 9             // 30
 void zerlegungThema(Lauf& l);    // 33
 void ggtKgv(Lauf& l);            // 34
 void heron(Lauf& l);             // 35

@@ -22,6 +22,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 QString u(const std::string& s) { return QString::fromUtf8(s.c_str(), static_cast<int>(s.size())); }
 std::string s8(const QString& s) { return s.toUtf8().toStdString(); }
@@ -156,7 +158,6 @@ void TFnumer::RB1C()
     QStringList koepfe = u(t.spalten).split('\t');
     if (thema_ == 16) koepfe = QStringList{"Index         ", RBG_->checkedId() == 1 ? "Lucas-Zahlen" : "Fibonacci-Zahlen"};
     if (thema_ == 28 && RBG_->checkedId() >= 0) koepfe = QStringList{RB_[RBG_->checkedId()]->text()};
-    while (koepfe.size() < 6) koepfe << QString();
     LB2_->setColumnCount(koepfe.size());
     LB2_->setHeaderLabels(koepfe);
 }
@@ -212,6 +213,10 @@ void TFnumer::B1C()
         if (r.fehler) item->setForeground(0, Qt::red);
         items << item;
     }
+    // rows may have more columns than the topic names
+    int spalten = LB2_->columnCount();
+    for (auto* item : items) spalten = std::max(spalten, item->columnCount());
+    LB2_->setColumnCount(spalten);
     LB2_->addTopLevelItems(items);
     M1_->setPlainText(zeilen_.join('\n'));
 }
