@@ -65,40 +65,49 @@ std::string partitionen(int n)
 }
 
 namespace {
-// Akiyama-Tanigawa on exact fractions: after step m, A[0] is B(m) (with B(1) = +1/2).
-// `jede` gets every B(m); answering false stops.
-void akiyama(int n, const std::function<bool(int, const Gross&, const Gross&)>& jede)
+// Tangent numbers T(1..m) by the in-place recurrence of Brent and Harvey: only small
+// multipliers, no fractions. `weiter` gets the percentage and may stop the run.
+bool tangentenzahlen(int m, std::vector<Gross>& t, const std::function<bool(int)>& weiter)
 {
-    std::vector<Gross> za(static_cast<size_t>(n) + 1), ne(static_cast<size_t>(n) + 1);
-    const Gross eins(1);
-    for (int m = 0; m <= n; ++m) {
-        za[m] = eins;
-        ne[m] = Gross(m + 1);
-        for (int j = m; j >= 1; --j) {
-            Gross z1 = (za[j - 1] * ne[j] - za[j] * ne[j - 1]) * Gross(j);
-            Gross n1 = ne[j - 1] * ne[j];
-            const Gross g = ggT(z1, n1);
-            if (!g.null() && !(g == eins)) z1 = z1 / g, n1 = n1 / g;
-            za[j - 1] = z1;
-            ne[j - 1] = n1;
+    t.assign(static_cast<size_t>(m) + 1, Gross());
+    if (m < 1) return true;
+    t[1] = Gross(1);
+    for (int k = 2; k <= m; ++k) numbers::mp_mul_d(t[k - 1].m(), static_cast<numbers::mp_digit>(k - 1), t[k].m());
+    Gross a, b;
+    for (int k = 2; k <= m; ++k) {
+        if (weiter && !weiter(100 * k / (m + 1))) return false;
+        for (int j = k; j <= m; ++j) {
+            numbers::mp_mul_d(t[j - 1].m(), static_cast<numbers::mp_digit>(j - k), a.m());
+            numbers::mp_mul_d(t[j].m(), static_cast<numbers::mp_digit>(j - k + 2), b.m());
+            numbers::mp_add(a.m(), b.m(), t[j].m());
         }
-        Gross z0 = za[0], n0 = ne[0];
-        if (n0.negativ()) z0 = Gross(0) - z0, n0 = Gross(0) - n0;
-        if (m == 1) z0 = Gross(0) - z0;  // the usual sign B(1) = -1/2
-        if (!jede(m, z0, n0)) return;
     }
+    return true;
+}
+
+// B(2k) = (-1)^(k-1) 2k T(k) / (4^k (4^k - 1)), reduced.
+std::pair<std::string, std::string> ausTangente(int k, const Gross& tk)
+{
+    Gross vier;
+    numbers::mp_set(vier.m(), 1);
+    numbers::mp_shl(vier.m(), 2 * k, vier.m());
+    Gross zaehler = tk * Gross(2 * k);
+    Gross nenner = vier * (vier - Gross(1));
+    const Gross g = ggT(zaehler, nenner);
+    zaehler = zaehler / g;
+    nenner = nenner / g;
+    return {(k % 2 == 0 ? "-" : "") + zaehler.text(), nenner.text()};
 }
 }  // namespace
 
 std::pair<std::string, std::string> bernoulli(int n)
 {
-    if (n > 1 && n % 2 == 1) return {"0", "1"};
-    std::pair<std::string, std::string> r;
-    akiyama(n, [&](int m, const Gross& a, const Gross& b) {
-        if (m == n) r = {a.text(), b.text()};
-        return true;
-    });
-    return r;
+    if (n == 0) return {"1", "1"};
+    if (n == 1) return {"-1", "2"};
+    if (n % 2 == 1) return {"0", "1"};
+    std::vector<Gross> t;
+    tangentenzahlen(n / 2, t, {});
+    return ausTangente(n / 2, t[n / 2]);
 }
 
 namespace intern {
@@ -218,11 +227,16 @@ void bernoulliThema(Lauf& l)
     if (!l.ganz(1, 0, 100000, bis)) return;
     if (bis < von) std::swap(von, bis);
     if (bis > 2500) return l.fehler("Index zu groß (höchstens 2500)");
-    akiyama(static_cast<int>(bis), [&](int m, const Gross& a, const Gross& b) {
-        if (!l.weiter(static_cast<int>(100 * m / (bis + 1)))) return false;
-        if (m >= von && (m < 2 || m % 2 == 0)) l.zeile("B(" + std::to_string(m) + ") = \t" + a.text() + "\t" + b.text());
-        return true;
-    });
+    std::vector<Gross> t;
+    if (!tangentenzahlen(static_cast<int>(bis / 2), t, [&](int p) { return l.weiter(p); })) return;
+    for (int64_t n = von; n <= bis; ++n) {
+        std::pair<std::string, std::string> b;
+        if (n == 0) b = {"1", "1"};
+        else if (n == 1) b = {"-1", "2"};
+        else if (n % 2) continue;
+        else b = ausTangente(static_cast<int>(n / 2), t[static_cast<size_t>(n / 2)]);
+        l.zeile("B(" + z(n) + ") = \t" + b.first + "\t" + b.second);
+    }
 }
 
 void moser(Lauf& l)
