@@ -6,6 +6,8 @@
 #include "platform/toolframe.h"
 
 #include <QButtonGroup>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QGridLayout>
@@ -91,9 +93,13 @@ TFnumer::TFnumer(QWidget* parent, int wahlseite, int wahlpunkt) : QDialog(parent
     B1_->setMinimumWidth(140);
     B1_->setDefault(true);
     L9_ = new QLabel("0 %");
+    auto* B2 = new QPushButton("Kopieren");
+    B2->setToolTip("Ergebnisliste in die Zwischenablage kopieren");
     start->addWidget(B1_);
     start->addWidget(L9_);
     start->addStretch();
+    start->addWidget(B2);
+    connect(B2, &QPushButton::clicked, this, [this] { QGuiApplication::clipboard()->setText(zeilen_.join('\n')); });
     rechts->addLayout(start);
 
     tabs_ = new QTabWidget;
@@ -157,7 +163,14 @@ void TFnumer::RB1C()
     const auto& t = numer::themen()[static_cast<size_t>(thema_)];
     QStringList koepfe = u(t.spalten).split('\t');
     if (thema_ == 16) koepfe = QStringList{"Index         ", RBG_->checkedId() == 1 ? "Lucas-Zahlen" : "Fibonacci-Zahlen"};
-    if (thema_ == 28 && RBG_->checkedId() >= 0) koepfe = QStringList{RB_[RBG_->checkedId()]->text()};
+    if (thema_ == 28 && RBG_->checkedId() >= 0) {
+        koepfe = QStringList{RB_[RBG_->checkedId()]->text()};
+        // the n-th prime and the count take one number n
+        const bool einzeln = RBG_->checkedId() >= 9;
+        L_[0]->setText(einzeln ? "n" : "von");
+        L_[1]->setVisible(!einzeln);
+        E_[1]->setVisible(!einzeln);
+    }
     LB2_->setColumnCount(koepfe.size());
     LB2_->setHeaderLabels(koepfe);
 }
@@ -216,7 +229,11 @@ void TFnumer::B1C()
     // rows may have more columns than the topic names
     int spalten = LB2_->columnCount();
     for (auto* item : items) spalten = std::max(spalten, item->columnCount());
-    LB2_->setColumnCount(spalten);
+    if (spalten > LB2_->columnCount()) {
+        QStringList koepfe;
+        for (int i = 0; i < spalten; ++i) koepfe << (i < LB2_->columnCount() ? LB2_->headerItem()->text(i) : QString());
+        LB2_->setHeaderLabels(koepfe);
+    }
     LB2_->addTopLevelItems(items);
     M1_->setPlainText(zeilen_.join('\n'));
 }

@@ -43,6 +43,8 @@ TEST(NumerFenster, OpensAtTopicAndComputes)
     ASSERT_NE(liste, nullptr);
     EXPECT_EQ(liste->headerItem()->text(0), "Primzahlzwillinge");
     EXPECT_EQ(liste->topLevelItem(0)->text(1), "5");
+    pw->show();
+    if (const char* out = std::getenv("QUORIX_PNG2")) pw->grab().save(out);
     // a left-out topic is not chosen: the window stays on its page
     pw->setzeThema(1);
     EXPECT_EQ(pw->thema(), 28);
