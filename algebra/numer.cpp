@@ -3,6 +3,7 @@
 #include "algebra/numer_intern.h"
 #include "kernel/realtostr.h"
 #include "kernel/term.h"
+#include "numbers/mp_types.h"
 
 #include <cerrno>
 #include <cmath>
@@ -46,7 +47,7 @@ const std::vector<Thema>& themen()
         t("Goldbachsche Vermutung", {"von", "bis"}, {"4", "100"}, {"eine Zerlegung", "alle Zerlegungen"}, "Zerlegung"),
         t("Zahlenfolge 3a+1", {"Startzahl a"}, {"27"}, {}, "Schritt\tgerade Glieder\tungerade Glieder"),
         t("Partitionen", {"Zahl n", "anzuzeigen"}, {"7", "100"}, {}, "Nummer\tPartition"),
-        t("Zahlumwandlung", {"Index von", "bis"}, {"0", "50"}, {"Fibonacci-Zahlen", "Lucas-Zahlen"},
+        t("Zahlumwandlung", {"Index von", "bis"}, {"0", "50"}, {"Fibonacci-Zahlen", "Lucas-Zahlen", "Zahlsysteme"},
           "Index         \tFibonacci-Zahlen"),
         t("Zahluntersuchung", {"Zahl z"}, {"97"}, {}, "Größe\tWert"),
         t("Befreundete Zahlen", {"bis"}, {"100000"}, {}, "a\tb"),
@@ -172,10 +173,12 @@ Ergebnis berechne(int thema, const Eingabe& eingabe, const Fortschritt& fortschr
         l.fehler("Dieses Thema ist in dieser Ausgabe nicht enthalten.");
         return erg;
     }
+    numbers::mp_reset_error();
     try {
         routinen[thema](l);
     } catch (const std::exception&) {
-        // the long numbers throw when a value outgrows them
+        // the long numbers throw when a value outgrows them; their error flag is sticky
+        numbers::mp_reset_error();
         l.fehler("Zahl zu groß");
     }
     return erg;

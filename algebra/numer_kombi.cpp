@@ -3,6 +3,7 @@
 #include "algebra/numer_gross.h"
 #include "algebra/numer_intern.h"
 
+#include <cctype>
 #include <cmath>
 #include <functional>
 
@@ -179,8 +180,28 @@ void kombinatorik(Lauf& l)
     }
 }
 
+namespace {
+// A whole number typed in base g, written in every base from 2 to 36.
+void zahlsysteme(Lauf& l)
+{
+    int64_t g;
+    std::string t = l.feld(0);
+    for (char& c : t) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    if (!l.ganz(1, 2, 36, g)) return;
+    if (t.empty() || t.size() > 5000) return l.fehler("Zahl eingeben");
+    for (char c : t) {
+        const int v = c >= '0' && c <= '9' ? c - '0' : c >= 'A' && c <= 'Z' ? c - 'A' + 10 : 99;
+        if (v >= g) return l.fehler("Ungültige Ziffer " + std::string(1, c) + " zur Basis " + z(g));
+    }
+    Gross a;
+    numbers::mp_read_radix(a.m(), t, static_cast<int>(g));
+    for (int b = 2; b <= 36; ++b) l.zeile("Basis " + std::to_string(b) + "\t" + numbers::mp_radix_astr(a.m(), b));
+}
+}  // namespace
+
 void fibonacciThema(Lauf& l)
 {
+    if (l.ein.option == 2) return zahlsysteme(l);
     int64_t von, bis;
     if (!l.ganz(0, 0, 100000, von) || !l.ganz(1, 0, 100000, bis)) return;
     if (bis < von) std::swap(von, bis);

@@ -162,7 +162,14 @@ void TFnumer::RB1C()
 {
     const auto& t = numer::themen()[static_cast<size_t>(thema_)];
     QStringList koepfe = u(t.spalten).split('\t');
-    if (thema_ == 16) koepfe = QStringList{"Index         ", RBG_->checkedId() == 1 ? "Lucas-Zahlen" : "Fibonacci-Zahlen"};
+    if (thema_ == 16) {
+        const int o = RBG_->checkedId();
+        koepfe = o == 2 ? QStringList{"Basis", "Darstellung"}
+                        : QStringList{"Index         ", o == 1 ? "Lucas-Zahlen" : "Fibonacci-Zahlen"};
+        L_[0]->setText(o == 2 ? "Zahl" : "Index von");
+        L_[1]->setText(o == 2 ? "zur Basis" : "bis");
+        if (o == 2 && E_[0]->text() == "0") E_[0]->setText("255"), E_[1]->setText("10");
+    }
     if (thema_ == 28 && RBG_->checkedId() >= 0) {
         koepfe = QStringList{RB_[RBG_->checkedId()]->text()};
         // the n-th prime and the count take one number n
