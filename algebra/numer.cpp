@@ -58,7 +58,7 @@ const std::vector<Thema>& themen()
         t("Distanz-m-Primzahlen", {"von", "bis", "Abstand m"}, {"1", "1000", "6"}, {}, "p\tp+m"),
         t("Cunningham-Reihe", {"erste Zahl bis", "Mindestlänge"}, {"10000", "4"}, {"1.Art", "2.Art"}, "Reihe"),
         fehlt("Sonnenaufgang"),
-        fehlt("Scherk-Zerlegung"),
+        t("Scherk-Zerlegung", {"Index von", "bis"}, {"1", "30"}, {}, "Index\tZerlegung\tAnzahl"),
         t("Moser-Problem", {"Punkte bis"}, {"10"}, {}, "Punkte\tGebiete"),
         t("Kombinatorik", {"n", "k", "k2", "k3"}, {"10", "3", "", ""},
           {"Fakultät", "Kombinationen ohne Wiederholung", "Kombinationen mit Wiederholung",
@@ -167,7 +167,7 @@ Ergebnis berechne(int thema, const Eingabe& eingabe, const Fortschritt& fortschr
     static const Routine routinen[ThemenAnzahl] = {
         pythagoras, nullptr, fastPythagoras, teiler, algo196, eigenschaften, komplex, additionsketten, nullptr, waringThema,
         nullptr, iteration, zinsen, goldbach, collatz, partitionenThema, fibonacciThema, untersuchung, befreundet,
-        feiertage, gadisch, annuitaet, distanz, cunningham, nullptr, nullptr, moser, kombinatorik, primzahlen,
+        feiertage, gadisch, annuitaet, distanz, cunningham, nullptr, scherkThema, moser, kombinatorik, primzahlen,
         zahlwoerter, tupel, nullptr, nullptr, zerlegungThema, ggtKgv, heron, nullptr, aliquot, nullptr, bernoulliThema};
     if (thema < 0 || thema >= ThemenAnzahl || !routinen[thema]) {
         l.fehler("Dieses Thema ist in dieser Ausgabe nicht enthalten.");

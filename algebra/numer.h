@@ -64,6 +64,10 @@ std::string zahlwort(int64_t n, int sprache);
 std::vector<int64_t> additionskette(int64_t n);
 // The bases of a shortest sum of k-th powers equal to n, descending.
 std::vector<int64_t> waring(int64_t n, int k);
+// Scherk's representation of the i-th prime (1 counted as p0): "2·p(i-1) ± p(i-2) ± ... ± 1" for odd i,
+// "p(i-1) ± ... ± 1" for even i; "" when i is out of 1..300. `anzahl` gets the number of
+// representations for i <= 64 (0 above).
+std::string scherk(int i, uint64_t* anzahl = nullptr);
 // Numerator and denominator of the Bernoulli number B(n), sign on the numerator.
 std::pair<std::string, std::string> bernoulli(int n);
 

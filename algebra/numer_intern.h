@@ -58,6 +58,7 @@ void kombinatorik(Lauf& l);      // 27
 void primzahlen(Lauf& l);        // 28
 void zahlwoerter(Lauf& l);      // 29
 void tupel(Lauf& l);
+void scherkThema(Lauf& l);      // 25
 void additionsketten(Lauf& l);  // 7
 void waringThema(Lauf& l);      // 9             // 30
 void zerlegungThema(Lauf& l);    // 33

@@ -102,3 +102,66 @@ void waringThema(Lauf& l)
 
 }  // namespace intern
 }  // namespace numer
+
+namespace numer {
+
+std::string scherk(int i, uint64_t* anzahl)
+{
+    if (i < 1 || i > 300) return {};  // the reachability table grows with i times the prime sum
+    // p[0] = 1 as in Scherk's day, then the primes
+    std::vector<uint64_t> p{1};
+    for (uint64_t q : primzahlenBis(2000)) p.push_back(q);
+    const uint64_t fuehrend = (1 + i % 2) * p[static_cast<size_t>(i - 1)];
+    const int64_t ziel = static_cast<int64_t>(p[static_cast<size_t>(i)]) - static_cast<int64_t>(fuehrend);
+    int64_t summe = 0;
+    for (int k = 0; k <= i - 2; ++k) summe += static_cast<int64_t>(p[k]);
+    // the negated terms must add up to (summe - ziel) / 2: a subset sum over p[0..i-2]
+    if ((summe - ziel) % 2 != 0 || summe < ziel) return {};
+    const int64_t neg = (summe - ziel) / 2;
+    if (neg < 0) return {};
+    const size_t n = static_cast<size_t>(i > 1 ? i - 1 : 0), breite = static_cast<size_t>(neg) + 1;
+    // erreichbar[k][s]: s is a sum of some of the first k terms
+    std::vector<std::vector<bool>> erreichbar(n + 1, std::vector<bool>(breite, false));
+    std::vector<uint64_t> zahl(breite, 0);
+    erreichbar[0][0] = true;
+    zahl[0] = 1;
+    for (size_t k = 1; k <= n; ++k) {
+        const uint64_t w = p[k - 1];
+        erreichbar[k] = erreichbar[k - 1];
+        for (size_t s = breite; s-- > w;)
+            if (erreichbar[k - 1][s - w]) erreichbar[k][s] = true;
+        for (size_t s = breite; s-- > w;) zahl[s] += zahl[s - w];
+    }
+    if (!erreichbar[n][static_cast<size_t>(neg)]) return {};
+    if (anzahl) *anzahl = i <= 64 ? zahl[static_cast<size_t>(neg)] : 0;
+    // walk back from the largest term: negate it when the rest can still reach the sum
+    std::vector<bool> negativ(n, false);
+    size_t rest = static_cast<size_t>(neg);
+    for (size_t k = n; k >= 1; --k) {
+        if (!erreichbar[k - 1][rest]) {
+            negativ[k - 1] = true;
+            rest -= p[k - 1];
+        }
+    }
+    std::string s = (i % 2 ? "2·" : "") + std::to_string(p[static_cast<size_t>(i - 1)]);
+    for (size_t k = n; k >= 1; --k) s += (negativ[k - 1] ? " - " : " + ") + std::to_string(p[k - 1]);
+    return s;
+}
+
+namespace intern {
+void scherkThema(Lauf& l)
+{
+    int64_t von, bis;
+    if (!l.ganz(0, 1, 300, von) || !l.ganz(1, 1, 300, bis)) return;
+    if (bis < von) std::swap(von, bis);
+    const auto p = primzahlenBis(2000);
+    for (int64_t i = von; i <= bis; ++i) {
+        if (!l.weiter(static_cast<int>(100 * (i - von) / (bis - von + 1)))) return;
+        uint64_t anzahl = 0;
+        const std::string s = scherk(static_cast<int>(i), &anzahl);
+        l.zeile(z(i) + "\t" + std::to_string(p[static_cast<size_t>(i - 1)]) + " = " + (s.empty() ? "?" : s) + "\t" +
+                (anzahl ? std::to_string(anzahl) : std::string()));
+    }
+}
+}  // namespace intern
+}  // namespace numer

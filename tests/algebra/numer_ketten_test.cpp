@@ -57,3 +57,33 @@ TEST(NumerKetten, WaringNumbers)
     }
     EXPECT_EQ(maxQ, 4u);  // Lagrange
 }
+
+TEST(NumerKetten, ScherkRepresentations)
+{
+    // numbers of representations from OEIS A059871, i = 1..20
+    const uint64_t a059871[] = {1, 1, 1, 1, 1, 3, 3, 4, 6, 12, 16, 31, 46, 90, 140, 276, 449, 877, 1443, 2834};
+    const auto p = numer::primzahlenBis(1000);
+    for (int i = 1; i <= 20; ++i) {
+        uint64_t anzahl = 0;
+        const std::string s = numer::scherk(i, &anzahl);
+        EXPECT_EQ(anzahl, a059871[i - 1]) << "i = " << i << ": " << s;
+        // the expression really sums to the i-th prime
+        int64_t wert = 0, faktor = 1, vorzeichen = 1;
+        size_t pos = 0;
+        if (s.rfind("2·", 0) == 0) faktor = 2, pos = std::string("2·").size();
+        while (pos < s.size()) {
+            size_t e = s.find(' ', pos);
+            if (e == std::string::npos) e = s.size();
+            const std::string t = s.substr(pos, e - pos);
+            if (t == "+") vorzeichen = 1;
+            else if (t == "-") vorzeichen = -1;
+            else wert += vorzeichen * faktor * std::stoll(t), faktor = 1;
+            pos = e + 1;
+        }
+        EXPECT_EQ(wert, static_cast<int64_t>(p[i - 1])) << "i = " << i << ": " << s;
+    }
+    EXPECT_EQ(numer::scherk(6), "11 + 7 - 5 + 3 - 2 - 1");  // one of the three forms of 13
+    EXPECT_FALSE(numer::scherk(300).empty());
+    EXPECT_EQ(numer::scherk(301), "");
+    EXPECT_EQ(numer::scherk(0), "");
+}
