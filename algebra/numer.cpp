@@ -181,6 +181,9 @@ Ergebnis berechne(int thema, const Eingabe& eingabe, const Fortschritt& fortschr
         numbers::mp_reset_error();
         l.fehler("Zahl zu groß");
     }
+    if (l.weggelassen > 0)
+        erg.zeilen.insert(erg.zeilen.begin() + Lauf::MaxZeilen,
+                          "(" + std::to_string(l.weggelassen) + " weitere Zeilen nicht angezeigt)");
     return erg;
 }
 

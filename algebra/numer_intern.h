@@ -10,8 +10,19 @@ struct Lauf {
     const Eingabe& ein;
     Ergebnis& erg;
     const Fortschritt& fortschritt;
+    size_t weggelassen = 0;
+    static constexpr size_t MaxZeilen = 100000;
 
-    void zeile(const std::string& s) { erg.zeilen.push_back(s); }
+    // A table row; rows beyond MaxZeilen are counted, not kept, so the list stays usable.
+    void zeile(const std::string& s)
+    {
+        if (erg.zeilen.size() < MaxZeilen)
+            erg.zeilen.push_back(s);
+        else
+            ++weggelassen;
+    }
+    // A closing line (count, summary): always kept.
+    void schluss(const std::string& s) { erg.zeilen.push_back(s); }
     // Message instead of a table.
     void fehler(const std::string& s)
     {

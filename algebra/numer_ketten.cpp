@@ -78,7 +78,7 @@ void additionsketten(Lauf& l)
                 }
         l.zeile(std::to_string(i) + "\t" + std::to_string(k[i]) + "\t= " + wie);
     }
-    l.zeile("Kettenlänge l(" + z(n) + ") = " + std::to_string(k.size() - 1));
+    l.schluss("Kettenlänge l(" + z(n) + ") = " + std::to_string(k.size() - 1));
 }
 
 void waringThema(Lauf& l)
@@ -97,7 +97,7 @@ void waringThema(Lauf& l)
         l.zeile(z(n) + "\t" + std::to_string(b.size()) + "\t" + s);
         maximum = std::max(maximum, static_cast<int>(b.size()));
     }
-    l.zeile("höchstens " + std::to_string(maximum) + " Summanden");
+    l.schluss("höchstens " + std::to_string(maximum) + " Summanden");
 }
 
 }  // namespace intern

@@ -238,7 +238,7 @@ void partitionenThema(Lauf& l)
             rest -= s2;
         }
     }
-    l.zeile(z(gezeigt) + " angezeigte Partitionen");
+    l.schluss(z(gezeigt) + " angezeigte Partitionen");
 }
 
 void bernoulliThema(Lauf& l)

@@ -96,7 +96,7 @@ void primzahlen(Lauf& l)
             ++anzahl;
         }
     }
-    l.zeile(std::to_string(anzahl) + ende);
+    l.schluss(std::to_string(anzahl) + ende);
 }
 
 void distanz(Lauf& l)
@@ -110,7 +110,7 @@ void distanz(Lauf& l)
             l.zeile(std::to_string(p[i - 1]) + "\t" + std::to_string(p[i]));
             ++anzahl;
         }
-    l.zeile(std::to_string(anzahl) + " Paare");
+    l.schluss(std::to_string(anzahl) + " Paare");
 }
 
 void tupel(Lauf& l)
@@ -142,7 +142,7 @@ void tupel(Lauf& l)
         l.zeile(s);
         ++anzahl;
     }
-    l.zeile(anzahl ? std::to_string(anzahl) + "  Tupel gefunden" : std::string(" kein Tupel gefunden"));
+    l.schluss(anzahl ? std::to_string(anzahl) + "  Tupel gefunden" : std::string(" kein Tupel gefunden"));
 }
 
 void cunningham(Lauf& l)
@@ -162,7 +162,7 @@ void cunningham(Lauf& l)
             ++anzahl;
         }
     }
-    l.zeile(std::to_string(anzahl) + " Cunnigham-Reihen " + (art == 1 ? "1.Art" : "2.Art"));
+    l.schluss(std::to_string(anzahl) + " Cunnigham-Reihen " + (art == 1 ? "1.Art" : "2.Art"));
 }
 
 void goldbach(Lauf& l)
@@ -213,10 +213,10 @@ void collatz(Lauf& l)
         if (max < a) max = a;
     }
     reziprok += 1.0;  // the final 1 is odd too
-    l.zeile("gerade Glieder\t\t" + z(gerade));
-    l.zeile("ungerade Glieder\t" + z(ungerade));
-    l.zeile("Maximum\t" + max.text());
-    l.zeile("Summe der reziproken ungeraden Glieder = " + zahl(reziprok, 8));
+    l.schluss("gerade Glieder\t\t" + z(gerade));
+    l.schluss("ungerade Glieder\t" + z(ungerade));
+    l.schluss("Maximum\t" + max.text());
+    l.schluss("Summe der reziproken ungeraden Glieder = " + zahl(reziprok, 8));
 }
 
 }  // namespace numer::intern

@@ -284,7 +284,7 @@ void befreundet(Lauf& l)
             ++paare;
         }
     }
-    l.zeile(std::to_string(paare) + " Paare");
+    l.schluss(std::to_string(paare) + " Paare");
 }
 
 void aliquot(Lauf& l)
@@ -324,7 +324,7 @@ void pythagoras(Lauf& l)
     std::sort(l.erg.zeilen.end() - anzahl, l.erg.zeilen.end(), [](const std::string& x, const std::string& y) {
         return std::stoll(x.substr(x.rfind('\t') + 1)) < std::stoll(y.substr(y.rfind('\t') + 1));
     });
-    l.zeile(std::to_string(anzahl) + " Einträge");
+    l.schluss(std::to_string(anzahl) + " Einträge");
 }
 
 void fastPythagoras(Lauf& l)
@@ -345,7 +345,7 @@ void fastPythagoras(Lauf& l)
             }
         }
     }
-    l.zeile(std::to_string(anzahl) + " Einträge");
+    l.schluss(std::to_string(anzahl) + " Einträge");
 }
 
 void algo196(Lauf& l)
@@ -367,9 +367,9 @@ void algo196(Lauf& l)
         if (u) t.push_back('1');
         s.assign(t.rbegin(), t.rend());
         l.zeile(z(i) + "\t" + s);
-        if (std::equal(s.begin(), s.end(), s.rbegin())) return l.zeile("Palindrom im Schritt " + z(i));
+        if (std::equal(s.begin(), s.end(), s.rbegin())) return l.schluss("Palindrom im Schritt " + z(i));
     }
-    l.zeile("kein Palindrom nach " + z(schritte) + " Schritten");
+    l.schluss("kein Palindrom nach " + z(schritte) + " Schritten");
 }
 
 void gadisch(Lauf& l)
