@@ -1,5 +1,6 @@
 // Topics on reals: the square root by Heron, complex numbers, iteration of a term.
 #include "algebra/numer_intern.h"
+#include "kernel/realtostr.h"
 #include "kernel/term.h"
 
 #include <cmath>
@@ -10,6 +11,15 @@ namespace numer::intern {
 namespace {
 using C = std::complex<double>;
 
+// The setting "Komma" holds here as in every shown number.
+std::string komma(std::string s)
+{
+    if (kernel::UseDecimalComma)
+        for (char& ch : s)
+            if (ch == '.') ch = ',';
+    return s;
+}
+
 std::string kart(C c)
 {
     char b[128];
@@ -17,14 +27,14 @@ std::string kart(C c)
     std::string s = b;
     const auto pos = s.find("+-");
     if (pos != std::string::npos) s.replace(pos, 2, "-");
-    return s;
+    return komma(s);
 }
 
 std::string polar(C c)
 {
     char b[128];
     std::snprintf(b, sizeof b, "%*.*f · CIS(%*.*f)", 1, 6, std::abs(c), 1, 6, std::arg(c) * 180 / M_PI);
-    return b;
+    return komma(b);
 }
 }  // namespace
 

@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include "kernel/realtostr.h"
+
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -141,6 +144,17 @@ TEST(NumerReell, HeronAndIteration)
     EXPECT_DOUBLE_EQ(v, 2.5);
     EXPECT_TRUE(numer::leseReell("sqrt(16)", v));
     EXPECT_DOUBLE_EQ(v, 4);
+}
+
+TEST(NumerReell, ComplexNumbersFollowTheCommaSetting)
+{
+    // (1+i)^2 = 2i; |1+i| = sqrt 2 at 45 degrees
+    const auto r = lauf(6, {"1", "1", "1", "1"});
+    EXPECT_NE(std::find(r.zeilen.begin(), r.zeilen.end(), "a·b\t0.000000 +2.000000 i"), r.zeilen.end());
+    kernel::UseDecimalComma = true;
+    const auto k = lauf(6, {"1", "1"});
+    kernel::UseDecimalComma = false;
+    EXPECT_NE(std::find(k.zeilen.begin(), k.zeilen.end(), "Winkelform\t1,414214 · CIS(45,000000)"), k.zeilen.end());
 }
 
 TEST(NumerThemen, TableAndAbort)

@@ -49,6 +49,10 @@ TEST(NumerFenster, OpensAtTopicAndComputes)
     pw->setzeThema(1);
     EXPECT_EQ(pw->thema(), 28);
 
+    std::unique_ptr<QDialog> zins(createTFnumer(nullptr, 12, 4));
+    zins->show();
+    if (const char* out = std::getenv("QUORIX_PNG3")) zins->grab().save(out);
+
     std::unique_ptr<QDialog> b(createTFnumer(nullptr, 39, -1));
     auto* bw = qobject_cast<TFnumer*>(b.get());
     bw->B1C();
