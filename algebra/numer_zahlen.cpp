@@ -268,11 +268,11 @@ void befreundet(Lauf& l)
     int64_t bis;
     if (!l.ganz(0, 2, 20000000, bis)) return;
     // divisor sums by a sieve: sigma(n) - n for all n up to the bound
-    std::vector<uint64_t> s(static_cast<size_t>(bis) + 1, 1);
+    std::vector<uint32_t> s(static_cast<size_t>(bis) + 1, 1);  // s(n) < 5n stays in 32 bit here
     s[0] = s[1] = 0;
     for (int64_t d = 2; d <= bis / 2; ++d) {
         if (d % 100000 == 0 && !l.weiter(static_cast<int>(50 * d / bis))) return;
-        for (int64_t m = 2 * d; m <= bis; m += d) s[m] += d;
+        for (int64_t m = 2 * d; m <= bis; m += d) s[m] += static_cast<uint32_t>(d);
     }
     int paare = 0;
     for (int64_t a = 2; a <= bis; ++a) {
