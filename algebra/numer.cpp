@@ -37,7 +37,7 @@ const std::vector<Thema>& themen()
         t("Addington-Ketten", {"Zahl n"}, {"127"}, {}, "Glied\tWert\tBildung"),
         fehlt("Dämmerung"),
         t("Waring-Problem", {"von", "bis"}, {"1", "100"}, {"Quadrate", "Kuben", "Biquadrate"}, "Zahl\tAnzahl\tZerlegung"),
-        fehlt("Sonnen- und Mondfinsternisse"),
+        t("Sonnen- und Mondfinsternisse", {"von Jahr", "bis Jahr"}, {"2026", "2030"}, {}, "Zeitpunkt\tFinsternis\tArt"),
         t("Iterationsberechnung", {"Term f(X)", "Startwert X0", "Parameter P", "Anzahl"}, {"P*X*(1-X)", "0.5", "3.2", "30"},
           {}, "Schritt\tx\tÄnderung"),
         t("Zinsrechnung", {"Kapital €", "Zinssatz %", "Jahre, Tage", "Rate €"}, {"10000", "5", "10", "1000"},
@@ -166,7 +166,7 @@ Ergebnis berechne(int thema, const Eingabe& eingabe, const Fortschritt& fortschr
     using Routine = void (*)(Lauf&);
     static const Routine routinen[ThemenAnzahl] = {
         pythagoras, nullptr, fastPythagoras, teiler, algo196, eigenschaften, komplex, additionsketten, nullptr, waringThema,
-        nullptr, iteration, zinsen, goldbach, collatz, partitionenThema, fibonacciThema, untersuchung, befreundet,
+        finsternisse, iteration, zinsen, goldbach, collatz, partitionenThema, fibonacciThema, untersuchung, befreundet,
         feiertage, gadisch, annuitaet, distanz, cunningham, nullptr, scherkThema, moser, kombinatorik, primzahlen,
         zahlwoerter, tupel, nullptr, nullptr, zerlegungThema, ggtKgv, heron, nullptr, aliquot, nullptr, bernoulliThema};
     if (thema < 0 || thema >= ThemenAnzahl || !routinen[thema]) {

@@ -77,5 +77,6 @@ void ggtKgv(Lauf& l);            // 34
 void heron(Lauf& l);             // 35
 void aliquot(Lauf& l);           // 37
 void bernoulliThema(Lauf& l);    // 39
+void finsternisse(Lauf& l);      // 10, on the ephemeris kernel
 
 }  // namespace numer::intern
