@@ -3,6 +3,7 @@
 #include "kernel/numeric.h"
 #include "platform/codepage.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace konstru {
@@ -185,5 +186,21 @@ void zeichneKonstruktion(Canvas& c, int breite, int hoehe, const Lauf& lauf, con
     c.setPenStyle(platform::PenStyle::Solid);
     c.setPenWidth(1);
 }
+
+}  // namespace konstru
+
+namespace konstru {
+
+P2 animationsSchritt(P2 p, int& richtung, bool senkrecht, const Ansicht& v, int breite, int hoehe)
+{
+    const double schritt = 0.02 * richtung;
+    if (senkrecht) p.y += schritt;
+    else p.x += schritt;
+    const double x = v.px(p.x, breite), y = v.py(p.y, hoehe);
+    if (senkrecht ? (y < 10 || y > hoehe) : (x < 5 || x > breite)) richtung = -richtung;
+    return p;
+}
+
+int animationsIntervall(int geschwindigkeit) { return 110 - 10 * std::clamp(geschwindigkeit, 1, 10); }
 
 }  // namespace konstru

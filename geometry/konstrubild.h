@@ -24,3 +24,12 @@ struct Ansicht {
 void zeichneKonstruktion(platform::Canvas& c, int breite, int hoehe, const Lauf& lauf, const Ansicht& v);
 
 }  // namespace konstru
+
+namespace konstru {
+// One animation tick: the point moves 0.02 units along x (or y when `senkrecht`) in
+// `richtung` (+1/-1); the direction flips when its pixel nears the panel's border (5 from the
+// left, 10 from the top, the width and height).
+P2 animationsSchritt(P2 p, int& richtung, bool senkrecht, const Ansicht& v, int breite, int hoehe);
+// The timer interval in ms of the speed setting 1..10: the highest value is the shortest.
+int animationsIntervall(int geschwindigkeit);
+}  // namespace konstru

@@ -22,7 +22,9 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QSpinBox>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -264,6 +266,7 @@ void Tikonstru::baueOberflaeche()
     LB1_->setObjectName("LB1");
     connect(LB1_, &QListWidget::itemChanged, this, [this](QListWidgetItem* it) {
         if (sperre_) return;
+        timerstop();
         const int i = LB1_->row(it);
         if (i >= 0 && i < k_.anzahl()) k_.sichtbar[i] = it->checkState() == Qt::Checked;
         neuZeichnen();
@@ -327,6 +330,30 @@ void Tikonstru::baueOberflaeche()
 
     Messergebnisse_ = new QListWidget;
     TC_->addTab(Messergebnisse_, "Messergebnisse");
+
+    auto* seite4 = new QWidget;
+    auto* s4 = new QGridLayout(seite4);
+    s4->setContentsMargins(4, 4, 4, 4);
+    s4->addWidget(new QLabel("Veränderbare Punkte"), 0, 0, 1, 2);
+    LB3_ = new QListWidget;
+    s4->addWidget(LB3_, 1, 0, 1, 2);
+    s4->addWidget(new QLabel("Richtung"), 2, 0);
+    Richtung_ = new QComboBox;
+    Richtung_->addItems({"waagerecht", "senkrecht"});
+    s4->addWidget(Richtung_, 2, 1);
+    s4->addWidget(new QLabel("Geschwindigkeit"), 3, 0);
+    Rx1_ = new QSpinBox;
+    Rx1_->setRange(1, 10);
+    Rx1_->setValue(10);
+    s4->addWidget(Rx1_, 3, 1);
+    S10_ = new QPushButton("Start");
+    s4->addWidget(S10_, 4, 1);
+    TC_->addTab(seite4, "Animation");
+    Timer2_ = new QTimer(this);
+    Timer2_->setInterval(10);
+    connect(Timer2_, &QTimer::timeout, this, [this] { Timer2Timer(); });
+    connect(S10_, &QPushButton::clicked, this, [this] { S10C(); });
+    connect(Rx1_, &QSpinBox::valueChanged, this, [this](int v) { Timer2_->setInterval(animationsIntervall(v)); });
     pv->addWidget(TC_, 1);
     mitte->addWidget(panel);
     aussen->addLayout(mitte, 1);
@@ -433,6 +460,7 @@ void Tikonstru::listeAnzeigen(int auswahl)
         it->setCheckState(k_.sichtbar[i] ? Qt::Checked : Qt::Unchecked);
     }
     if (auswahl < 0) auswahl = k_.anzahl() - 1;
+    veraenderbareZeigen();
     if (auswahl >= 0) LB1_->setCurrentRow(auswahl);
     sperre_ = false;
     neuZeichnen();
@@ -448,6 +476,7 @@ QStringList Tikonstru::beispielTitel() const
 bool Tikonstru::C2C(int index)
 {
     if (index < 0 || index >= static_cast<int>(beispiele_.size())) return false;
+    timerstop();
     k_.setze(beispiele_[index].zeilen);
     cursor_ = 0;
     C2_->setCurrentIndex(index + 1);
@@ -457,6 +486,7 @@ bool Tikonstru::C2C(int index)
 
 bool Tikonstru::ladeDatei(const QString& pfad)
 {
+    timerstop();
     if (!k_.lade(s8(pfad))) return false;
     cursor_ = 0;
     listeAnzeigen();
@@ -510,6 +540,7 @@ bool Tikonstru::D2C(int index, bool fragen)
 
 void Tikonstru::C1C(int index)
 {
+    timerstop();
     if (LB2_->currentIndex() != index) LB2_->setCurrentIndex(index);  // comes back here once
     const int art = artVonEintrag(index);
     const Felder f = felderVon(art);
@@ -686,6 +717,7 @@ void Tikonstru::aktionFertig()
 
 void Tikonstru::PB1D(QMouseEvent* e)
 {
+    timerstop();
     const QPointF p = e->position();
     if (e->button() == Qt::RightButton) {
         std::string n = punktBei(p, false);
@@ -757,3 +789,67 @@ void Tikonstru::umbenennen(const std::string& name)
 }
 
 void Tikonstru::setzeWinkel(const QString& grad) { W_->setText(grad); }
+
+// ---------------------------------------------------------------- animation
+
+void Tikonstru::veraenderbareZeigen()
+{
+    const QString alt = LB3_->currentItem() ? LB3_->currentItem()->data(Qt::UserRole).toString() : QString();
+    LB3_->clear();
+    for (const BenannterPunkt& p : k_.rechne().punkte) {
+        if (!p.frei) continue;
+        auto* it = new QListWidgetItem(u(p.name + "   x = " + zahlText(p.p.x) + "   y = " + zahlText(p.p.y)), LB3_);
+        it->setData(Qt::UserRole, u(p.name));
+        if (u(p.name) == alt) LB3_->setCurrentItem(it);
+    }
+}
+
+bool Tikonstru::markiereVeraenderbar(const QString& name)
+{
+    for (int i = 0; i < LB3_->count(); ++i)
+        if (LB3_->item(i)->data(Qt::UserRole).toString() == name) {
+            LB3_->setCurrentRow(i);
+            return true;
+        }
+    return false;
+}
+
+void Tikonstru::setzeRichtung(bool senkrecht) { Richtung_->setCurrentIndex(senkrecht ? 1 : 0); }
+
+bool Tikonstru::S10C()
+{
+    if (Timer2_->isActive()) {
+        timerstop();
+        return false;
+    }
+    if (!LB3_->currentItem()) {
+        if (LB3_->count() == 0) return false;
+        LB3_->setCurrentRow(0);
+    }
+    animRichtung_ = 1;
+    Timer2_->setInterval(animationsIntervall(Rx1_->value()));
+    Timer2_->start();
+    S10_->setText("Stopp");
+    return true;
+}
+
+void Tikonstru::timerstop()
+{
+    if (!Timer2_ || !Timer2_->isActive()) return;
+    Timer2_->stop();
+    S10_->setText("Start");
+    listeAnzeigen(LB1_->currentRow());
+}
+
+void Tikonstru::Timer2Timer()
+{
+    if (!LB3_->currentItem()) return timerstop();
+    const std::string name = s8(LB3_->currentItem()->data(Qt::UserRole).toString());
+    const BenannterPunkt* p = nullptr;
+    const Lauf l = k_.rechne();
+    p = l.punkt(name);
+    if (!p) return timerstop();
+    k_.verschiebe(name, animationsSchritt(p->p, animRichtung_, Richtung_->currentIndex() == 1, v_, PB1_->width(),
+                                          PB1_->height()));
+    neuZeichnen();
+}

@@ -16,7 +16,9 @@ class QLineEdit;
 class QListWidget;
 class QMouseEvent;
 class QPushButton;
+class QSpinBox;
 class QTabWidget;
+class QTimer;
 class Tikonstru;
 
 // The drawing panel PB1: paints through the owner and hands the mouse to it.
@@ -64,6 +66,12 @@ public:
     bool speichereDatei(const QString& pfad);
     QString letzteMeldung() const { return meldung_; }
     konstru::Ansicht& ansicht() { return v_; }
+    // Animation of the point marked in "Veränderbare Punkte"; each tick is Timer2Timer.
+    bool S10C();  // Start / Stopp; true when it runs afterwards
+    void Timer2Timer();
+    void timerstop();
+    bool markiereVeraenderbar(const QString& name);
+    void setzeRichtung(bool senkrecht);
 
     // mouse, called by the panel
     void PB1D(QMouseEvent* e);
@@ -119,4 +127,11 @@ private:
     QAction* gitterAktion_ = nullptr;
     QAction* mmAktion_ = nullptr;
     bool sperre_ = false;
+    QListWidget* LB3_ = nullptr;  // Veränderbare Punkte
+    QComboBox* Richtung_ = nullptr;
+    QSpinBox* Rx1_ = nullptr;     // Geschwindigkeit
+    QPushButton* S10_ = nullptr;
+    QTimer* Timer2_ = nullptr;
+    int animRichtung_ = 1;
+    void veraenderbareZeigen();
 };

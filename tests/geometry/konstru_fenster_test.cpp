@@ -157,3 +157,19 @@ TEST_F(Fenster, EingabezeileLoeschenUndDatei)
     EXPECT_EQ(w->konstruktion().anzahl(), 2);
     EXPECT_EQ(w->findChild<QListWidget*>("LB1")->currentRow(), 1);
 }
+
+TEST_F(Fenster, AnimationBewegtFreienPunkt)
+{
+    ASSERT_TRUE(w->C2C(2));  // Thales circle over A(-3|0), B(3|0)
+    ASSERT_TRUE(w->markiereVeraenderbar("B"));
+    ASSERT_TRUE(w->S10C());
+    w->Timer2Timer();
+    w->Timer2Timer();
+    const Lauf l = w->lauf();
+    EXPECT_NEAR(l.punkt("B")->p.x, 3.04, 1e-9);
+    EXPECT_NEAR(l.punkt("M")->p.x, 0.02, 1e-9);  // the midpoint follows
+    // any other use of the sheet stops it
+    klick(*w, pixel(-5, -5));
+    EXPECT_TRUE(w->S10C()) << "the click stopped it, so the button starts it again";
+    EXPECT_FALSE(w->S10C());  // and a second press stops it
+}

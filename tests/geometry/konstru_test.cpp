@@ -1,5 +1,6 @@
 // Construction sheet core: constructions whose results are known from school geometry.
 #include "geometry/konstru.h"
+#include "geometry/konstrubild.h"
 #include "geometry/konstruliste.h"
 
 #include <gtest/gtest.h>
@@ -238,4 +239,23 @@ TEST(KonstruListe, DateiUndBeispiele)
     ASSERT_EQ(b.size(), 2u);
     EXPECT_EQ(b[0].titel, "Erstes");
     EXPECT_EQ(b[1].zeilen.size(), 2u);
+}
+
+TEST(KonstruAnimation, KehrtAmRandUm)
+{
+    Ansicht v;  // 50 pixels per unit, origin in the centre of 400 x 300
+    int richtung = 1;
+    P2 p = animationsSchritt({1, 1}, richtung, false, v, 400, 300);
+    EXPECT_NEAR(p.x, 1.02, 1e-12);
+    EXPECT_EQ(richtung, 1);
+    p = animationsSchritt({3.99, 0}, richtung, false, v, 400, 300);  // pixel 400.5: past the width
+    EXPECT_EQ(richtung, -1);
+    p = animationsSchritt(p, richtung, false, v, 400, 300);
+    EXPECT_NEAR(p.x, 3.99, 1e-12);
+    richtung = 1;
+    animationsSchritt({0, 2.8}, richtung, true, v, 400, 300);  // pixel y 9: within 10 of the top
+    EXPECT_EQ(richtung, -1);
+    // faster settings give shorter intervals, never below 10 ms
+    for (int g = 1; g < 10; ++g) EXPECT_GT(animationsIntervall(g), animationsIntervall(g + 1));
+    EXPECT_EQ(animationsIntervall(10), 10);
 }
