@@ -105,6 +105,12 @@ TEST(KonstruBefehl, AusgabeUndFehler)
     EXPECT_NE(out.find("k1\tKreis\tM (2 | 1.5)\tr 2.5\n"), std::string::npos) << out;
     EXPECT_NE(out.find("g1\tGerade\tnicht definiert\n"), std::string::npos) << out;
 
+    // the picture is written beside the listing
+    const std::string bild = pfad + ".png";
+    std::filesystem::remove(bild);
+    ASSERT_EQ(befehl({pfad, "--png", bild}, out, err), 0) << err;
+    EXPECT_GT(std::filesystem::file_size(bild), 1000u);
+
     EXPECT_EQ(befehl({}, out, err), 2);
     EXPECT_NE(err.find("Aufruf: quorix konstruktion"), std::string::npos);
     EXPECT_EQ(befehl({pfad + ".fehlt"}, out, err), 1);
