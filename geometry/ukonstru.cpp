@@ -258,6 +258,10 @@ void Tikonstru::baueOberflaeche()
     pv->addWidget(C2_);
 
     TC_ = new QTabWidget;
+    // four tabs side by side in the narrow panel
+    TC_->setStyleSheet("QTabBar::tab { padding: 3px 4px; }");
+    TC_->setUsesScrollButtons(false);
+    TC_->setElideMode(Qt::ElideNone);
     // steps
     auto* seite1 = new QWidget;
     auto* s1 = new QVBoxLayout(seite1);
@@ -306,7 +310,7 @@ void Tikonstru::baueOberflaeche()
     schritte->addWidget(S6);
     schritte->addWidget(S9);
     s1->addLayout(schritte);
-    TC_->addTab(seite1, "Konstruktion");
+    TC_->addTab(seite1, "Schritte");
 
     // input row
     auto* seite2 = new QWidget;

@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QPixmap>
+#include <QTabWidget>
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -77,6 +78,10 @@ TEST_F(Fenster, OeffnetMitBeispielenUndSpeichertBild)
     const QPixmap bild = w->grab();
     EXPECT_FALSE(bild.isNull());
     bild.save(QString::fromStdString((std::filesystem::temp_directory_path() / "quorix_konstru.png").string()));
+    w->C1C(kDrehpunkt);
+    w->findChild<QTabWidget*>()->setCurrentIndex(1);
+    w->grab().save(QString::fromStdString((std::filesystem::temp_directory_path() / "quorix_konstru_eingabe.png").string()));
+    EXPECT_EQ(w->feldText(3), "30");  // the default rotation angle
 }
 
 TEST_F(Fenster, MausKonstruiertUndZiehtPunkte)
