@@ -1,6 +1,7 @@
 #include "geometry/commands.h"
 
 #include "geometry/dreieck.h"
+#include "geometry/konstrubefehl.h"
 
 #include <algorithm>
 #include <cmath>
@@ -60,5 +61,7 @@ int cmdDreieck(Args a, std::ostream& out, std::ostream& err)
 
 std::vector<quorix::HeadlessCommand> geometryCommands()
 {
-    return {{"dreieck", "Dreieck aus drei Eckpunkten: Seiten, Winkel und gewählte Objekte", cmdDreieck}};
+    return {{"dreieck", "Dreieck aus drei Eckpunkten: Seiten, Winkel und gewählte Objekte", cmdDreieck},
+            {"konstruktion", "Konstruktion aus einer Datei (.dyn) ausführen und alle Objekte mit Koordinaten ausgeben",
+             konstruktionsBefehl}};
 }
