@@ -74,7 +74,7 @@ const std::vector<WerkzeugEintrag>& werkzeugtabelle()
             {38, A::E, "quorixs.exe", {}},  {39, A::A, "Tfzeitst", {}},    {40, A::A, "TForm21a", {}},
             {41, A::A, "TForm21b", {}},     {42, A::A, "Tphy2", {}},       {43, A::A, "TForm37", {}},
             {44, A::A, "TEForm34", {}},     {45, A::A, "TastroF37", {}},   {46, A::A, "Tfhano", {}},
-            {47, A::A, "Tikonstru", {}},    {48, A::A, "TFLab3D", {}},     {49, A::A, "Tfpuzzle2", {}},
+            {47, A::A, "Tikonstru", mitSeite(::createTikonstru)},    {48, A::A, "TFLab3D", {}},     {49, A::A, "Tfpuzzle2", {}},
             {50, A::A, "TForm28", {}},      {51, A::A, "Tzastro37", {}},   {52, A::A, "TForm26", {}},
             {53, A::A, "TpForm13", {}},     {54, A::A, "Tfmasudoku", {}},  {55, A::B, "Tform3d", {}},
             {56, A::A, "Tpformx11", {}},    {57, A::A, "Tsolitaire", {}},  {58, A::A, "Tform23_a", {}},
