@@ -213,11 +213,11 @@ Ergebnis polynomSeite(const std::vector<std::string>& f)
         double a = -15 + 0.01, fa = horner(rest, a);
         for (int i = 1; a < 15 && !gefunden; ++i) {
             const double b = -15 + 0.01 * (i + 1), fb = horner(rest, b);
-            if (fa * fb <= 0 && std::fabs(fa * fb) < 2) {
-                double lo = a, hi = b, flo = fa, m = a;
-                if (fa == 0) m = a;
-                else if (fb == 0) m = b;
-                else
+            // a zero on the grid counts only with a sign change across it
+            const bool gitter = fb == 0 && fa * horner(rest, b + 0.01) < 0;
+            if ((fa * fb < 0 || gitter) && std::fabs(fa * fb) < 2) {
+                double lo = a, hi = b, flo = fa, m = b;
+                if (!gitter)
                     for (int k = 0; k < 1000; ++k) {
                         m = (lo + hi) / 2;
                         const double fm = horner(rest, m);
