@@ -1,0 +1,217 @@
+#include "algebra/algebrabild.h"
+
+#include "algebra/algebra.h"
+#include "kernel/numeric.h"
+#include "kernel/term.h"
+#include "platform/toolframe.h"
+
+#include <QString>
+#include <algorithm>
+#include <cmath>
+
+namespace algebra {
+
+namespace {
+
+using platform::Canvas;
+
+QString u(const std::string& s) { return QString::fromUtf8(s.c_str(), static_cast<int>(s.size())); }
+
+std::vector<std::string> spalten(const std::string& z)
+{
+    std::vector<std::string> r;
+    size_t a = 0;
+    for (;;) {
+        const size_t t = z.find('\t', a);
+        r.push_back(z.substr(a, t == std::string::npos ? std::string::npos : t - a));
+        if (t == std::string::npos) break;
+        a = t + 1;
+    }
+    return r;
+}
+
+// Lines with tabs go to columns of a fixed width; the first column may be wider.
+void zeilenZeichnen(Canvas& c, int x, int y, int breite, int unten, const std::vector<std::string>& zeilen)
+{
+    c.setFontName("Verdana");
+    c.setFontSize(9);
+    c.setFontStyle(0);
+    c.setBrushStyle(platform::BrushStyle::Clear);
+    const int zh = 17;
+    int spalte = 70;
+    for (const auto& z : zeilen) {
+        const auto s = spalten(z);
+        if (s.size() > 1 && s[0].size() > 10) spalte = std::max(spalte, 130);
+    }
+    for (const auto& z : zeilen) {
+        if (y + zh > unten) {
+            c.textOutW(x, y, QString::fromUtf8("\xE2\x80\xA6"));
+            break;
+        }
+        const auto s = spalten(z);
+        int xx = x;
+        for (size_t i = 0; i < s.size(); ++i) {
+            if (i == 1 && s[0].empty()) xx = x;  // leading tab as in the truth table
+            c.textOutW(xx, y, u(s[i]));
+            const int w = c.textWidthW(u(s[i])) + 12;
+            xx += std::max(i == 0 && !s[0].empty() ? spalte : 70, w);
+            if (xx > x + breite) break;
+        }
+        y += zh;
+    }
+}
+
+// The residue and dihedral tables as coloured squares: one hue per element.
+void tafelZeichnen(Canvas& c, int x, int y, int breite, int hoehe, const std::vector<std::string>& zeilen)
+{
+    if (zeilen.size() < 3) return;
+    c.setFontName("Verdana");
+    c.setFontSize(11);
+    c.setFontStyle(platform::fsBold);
+    c.setFontColor(platform::clNavy);
+    c.textOutW(x, y, u(zeilen[0]));
+    y += 28;
+    const auto kopf = spalten(zeilen[1]);
+    const int n = static_cast<int>(kopf.size()) - 1;
+    const int zelle = std::max(14, std::min(44, std::min(breite, hoehe - 40) / (n + 1)));
+    c.setFontSize(zelle >= 30 ? 9 : 7);
+    c.setFontStyle(0);
+    c.setFontColor(platform::clBlack);
+    c.setPenColor(platform::clGray);
+    auto kaestchen = [&](int r, int s, const std::string& text, platform::TColor farbe) {
+        const int x1 = x + s * zelle, y1 = y + r * zelle;
+        c.setBrushStyle(platform::BrushStyle::Solid);
+        c.setBrushColor(farbe);
+        c.rectangle(x1, y1, x1 + zelle + 1, y1 + zelle + 1);
+        c.setBrushStyle(platform::BrushStyle::Clear);
+        const QString t = u(text);
+        c.textOutW(x1 + (zelle - c.textWidthW(t)) / 2, y1 + (zelle - 14) / 2, t);
+    };
+    auto farbe = [&](const std::string& name) -> platform::TColor {
+        int k = 0;
+        for (int i = 1; i <= n; ++i)
+            if (kopf[i] == name) k = i - 1;
+        const QColor q = QColor::fromHsv((k * 360 / std::max(1, n)) % 360, 70, 255);
+        return platform::fromQColor(q);
+    };
+    for (size_t r = 1; r < zeilen.size() && static_cast<int>(r) <= n + 1; ++r) {
+        const auto s = spalten(zeilen[r]);
+        for (size_t k = 0; k < s.size() && static_cast<int>(k) <= n; ++k) {
+            const bool rand = r == 1 || k == 0;
+            kaestchen(static_cast<int>(r) - 1, static_cast<int>(k), s[k], rand ? platform::clSilver : farbe(s[k]));
+        }
+    }
+}
+
+// Both sides of an equation as functions on [a, b], so the user sees where they meet.
+void vorschauZeichnen(Canvas& c, int x, int y, int w, int h, const Bildinhalt& b)
+{
+    const bool ungl = b.seite == 19;
+    if (b.felder.size() < (ungl ? 5u : 4u)) return;
+    const std::string links = termText(b.felder[0]), rechts = termText(b.felder[ungl ? 2 : 1]);
+    double a, e;
+    if (!leseZahl(b.felder[ungl ? 3 : 2], a) || !leseZahl(b.felder[ungl ? 4 : 3], e)) return;
+    if (e <= a) e = a + 5;
+    const int n = 300;
+    std::vector<double> yl(n + 1), yr(n + 1);
+    std::vector<bool> okl(n + 1), okr(n + 1);
+    double lo = 1e300, hi = -1e300;
+    for (int i = 0; i <= n; ++i) {
+        const double xx = a + (e - a) * i / n;
+        yl[i] = quorix::EvalTerm(links, xx);
+        okl[i] = quorix::TermError == 0 && std::isfinite(yl[i]);
+        yr[i] = quorix::EvalTerm(rechts, xx);
+        okr[i] = quorix::TermError == 0 && std::isfinite(yr[i]);
+        for (auto [v, ok] : {std::pair{yl[i], okl[i]}, std::pair{yr[i], okr[i]}})
+            if (ok && std::fabs(v) < 1e6) {
+                lo = std::min(lo, v);
+                hi = std::max(hi, v);
+            }
+    }
+    c.setPenColor(platform::clGray);
+    c.setBrushStyle(platform::BrushStyle::Solid);
+    c.setBrushColor(platform::clWhite);
+    c.rectangle(x, y, x + w, y + h);
+    if (lo > hi) return;
+    if (hi - lo < 1e-9) {
+        lo -= 1;
+        hi += 1;
+    }
+    const double rand = (hi - lo) * 0.05;
+    lo -= rand;
+    hi += rand;
+    auto px = [&](double xx) { return x + kernel::SafeRound((xx - a) / (e - a) * w); };
+    auto py = [&](double yy) { return y + h - kernel::SafeRound((yy - lo) / (hi - lo) * h); };
+    c.setPenColor(platform::clSilver);
+    if (lo < 0 && hi > 0) {
+        c.moveTo(x, py(0));
+        c.lineTo(x + w, py(0));
+    }
+    if (a < 0 && e > 0) {
+        c.moveTo(px(0), y);
+        c.lineTo(px(0), y + h);
+    }
+    auto kurve = [&](const std::vector<double>& v, const std::vector<bool>& ok, platform::TColor farbe) {
+        c.setPenColor(farbe);
+        c.setPenWidth(2);
+        bool zug = false;
+        for (int i = 0; i <= n; ++i) {
+            const bool sichtbar = ok[i] && v[i] >= lo && v[i] <= hi;
+            const int X = px(a + (e - a) * i / n), Y = py(v[i]);
+            if (sichtbar && zug) c.lineTo(X, Y);
+            else if (sichtbar) c.moveTo(X, Y);
+            zug = sichtbar;
+        }
+        c.setPenWidth(1);
+    };
+    kurve(yl, okl, platform::clBlue);
+    kurve(yr, okr, platform::clRed);
+    c.setFontSize(8);
+    c.setFontStyle(0);
+    c.setBrushStyle(platform::BrushStyle::Clear);
+    c.setFontColor(platform::clBlue);
+    c.textOutW(x + 6, y + 4, QString::fromUtf8("linke Seite"));
+    c.setFontColor(platform::clRed);
+    c.textOutW(x + 6, y + 18, QString::fromUtf8("rechte Seite"));
+    c.setFontColor(platform::clBlack);
+    c.textOutW(x + 6, y + h - 16, u(zahl(a, 3)));
+    const QString be = u(zahl(e, 3));
+    c.textOutW(x + w - 6 - c.textWidthW(be), y + h - 16, be);
+}
+
+}  // namespace
+
+void zeichneErgebnis(Canvas& c, int breite, int hoehe, const Bildinhalt& b)
+{
+    const std::string name = b.seite >= 0 && b.seite < seitenzahl ? seitennamen()[b.seite] : "";
+    platform::DrawToolTitle(c, breite, hoehe, u(name), 6, platform::clWhite);
+    const int oben = 58;
+    if (!seite(b.seite).vorhanden) {
+        c.setFontName("Verdana");
+        c.setFontSize(10);
+        c.setFontColor(platform::clGray);
+        c.setBrushStyle(platform::BrushStyle::Clear);
+        c.textOutW(16, oben + 10, QString::fromUtf8("Diese Seite ist in dieser Version noch nicht verfügbar."));
+        return;
+    }
+    c.setFontColor(platform::clBlack);
+    if ((b.seite == 17 || b.seite == 18) && !b.zeilen.empty() && b.zeilen.size() > 2) {
+        tafelZeichnen(c, 16, oben + 4, breite - 32, hoehe - oben - 8, b.zeilen);
+        return;
+    }
+    int textbreite = breite - 32;
+    if (b.seite == 3 || b.seite == 19) {
+        const int w = std::min(300, breite / 2 - 20);
+        vorschauZeichnen(c, breite - w - 12, oben + 4, w, std::min(230, hoehe - oben - 16), b);
+        textbreite = breite - w - 44;
+    }
+    c.setFontColor(platform::clBlack);
+    zeilenZeichnen(c, 16, oben + 4, textbreite, hoehe - 6, b.zeilen);
+    if (!b.status.empty()) {
+        c.setFontColor(platform::clGray);
+        c.setFontSize(8);
+        c.textOutW(16, hoehe - 18, u(b.status));
+    }
+}
+
+}  // namespace algebra
