@@ -38,6 +38,9 @@ std::vector<Seite> seitenTabelle()
     s[0] = {true, gaussHinweis(),
             {{"Gleichung 1", "2 1 -1 8"}, {"Gleichung 2", "-3 -1 2 -11"}, {"Gleichung 3", "-2 1 2 -3"}},
             true, 10};
+    s[2] = {true, "Koeffizienten der Matrix A und B zeilenweise, Zeilen durch ; getrennt; Rechnung: A, B, A+B, A-B, -A, A*B, B*A, AT, A^-1, A^2, A^n",
+            {{"Matrix A", "2 1 0; 1 3 1; 0 1 4"}, {"Matrix B", "1 0 0; 0 2 0; 1 0 1"}, {"Rechnung", "A*B"}, {"n =", "3"}},
+            false, 4};
     s[3] = {true, "Gleichung in X; Suche im Intervall von a bis b",
             {{"linke Seite", "X^3-2*X"}, {"rechte Seite", "X-1"}, {"von a =", "-5"}, {"bis b =", "5"}},
             false, 4};
@@ -194,6 +197,7 @@ Ergebnis berechne(int nummer, const std::vector<std::string>& f, Abbruch* abbruc
 {
     switch (nummer) {
     case 0: return gaussSeite(f);
+    case 2: return matrixSeite(f);
     case 3: return gleichungSeite(f);
     case 4: return polynomSeite(f);
     case 5: return cramerSeite(f);

@@ -96,6 +96,7 @@ void TFalgebra::FormCreate()
     gitter->addWidget(anzahl_, 0, 1, Qt::AlignLeft);
     for (int i = 0; i < kFelder; ++i) {
         auto* t = new QLabel(this);
+        t->setMinimumWidth(110);
         auto* e = new QLineEdit(this);
         e->setObjectName(QString("E%1").arg(i + 1));
         // two columns of five fields keep the result panel large
