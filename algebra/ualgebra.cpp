@@ -150,6 +150,8 @@ void TFalgebra::FormCreate()
     const int start = wahlseite_ >= 0 && wahlseite_ < seitenzahl ? wahlseite_ : 0;
     setzeSeite(start);
     if (LB1_->currentRow() == start) LB1C();
+    // the standard tasks take the catalogue's item as their task number
+    if (start == 12 && wahlpunkt_ >= 0 && wahlpunkt_ < 6) E_[0]->setText(QString::number(wahlpunkt_ + 1));
 }
 
 int TFalgebra::aktuelleSeite() const { return LB1_->currentRow() < 0 ? 0 : LB1_->currentRow(); }

@@ -118,3 +118,25 @@ TEST(Polynom, RootsOutsideTheRangeAndDoubleRoots)
     // the zero polynomial and a constant
     EXPECT_EQ(berechne(4, {"", "", "", "", "", "", ""}).zeilen.front(), "f(x) = 0");
 }
+
+TEST(Standardaufgaben, StepByStep)
+{
+    // x² - 2x - 8 = (x - 4)(x + 2)
+    const Ergebnis q = berechne(12, {"2", "-2", "-8", ""});
+    EXPECT_TRUE(nahe(werte(q, "x1 = -p/2 + Wurzel aus D = "), {4}, 1e-12)) << alle(q);
+    EXPECT_TRUE(nahe(werte(q, "x2 = -p/2 - Wurzel aus D = "), {-2}, 1e-12)) << alle(q);
+    EXPECT_TRUE(nahe(werte(q, "D = (p/2)² - q = "), {9}, 1e-12)) << alle(q);
+    const Ergebnis keine = berechne(12, {"2", "0", "1", ""});
+    EXPECT_EQ(keine.zeilen.back(), "keine Lösung");
+    // 2^x = 1024 gives 10; bases and values out of range are named
+    EXPECT_NEAR(werte(berechne(12, {"3", "2", "1024", ""}), "x = ").back(), 10, 1e-9);
+    EXPECT_EQ(berechne(12, {"3", "1", "5", ""}).zeilen.back(),
+              "Basis der Exponentialfunktion muss größer 0 und verschieden 1 sein!");
+    EXPECT_EQ(berechne(12, {"3", "2", "-4", ""}).zeilen[2], "Exponentialfunktion kann keinen Funktionswert <= 0 annehmen!");
+    // 3x + 4 = 10 gives 2; 0x + 1 = 1 holds for every x
+    EXPECT_NEAR(werte(berechne(12, {"1", "3", "4", "10"}), "x = ").back(), 2, 1e-12);
+    EXPECT_EQ(berechne(12, {"1", "0", "1", "1"}).zeilen.back(), "unendlich viele Lösungen");
+    // x² + 6x + 5 = (x + 3)² - 4, vertex (-3 ; -4)
+    EXPECT_EQ(berechne(12, {"6", "6", "5", ""}).zeilen.back(), "Scheitelpunkt S(-3 ; -4)");
+    EXPECT_TRUE(berechne(12, {"7", "1", "1", ""}).eingabefehler);
+}
