@@ -54,6 +54,10 @@ std::vector<Seite> seitenTabelle()
     s[6] = {true, "Nur Variablen X, Y, U und V verwenden.",
             {{"0 =", "X^4+Y^4-12*X*Y"}, {"0 =", "X*SQRT(ABS(X))-Y*SQRT(ABS(Y))-X"}, {"0 =", ""}, {"0 =", ""}},
             false, 4};
+    s[8] = {true, "dy = f(X, Y1, Y2, Y3); Startwerte bei x0, Integration bis x = Ende",
+            {{"dY1 =", "-0.04*Y1"}, {"dY2 =", "0.04*Y1-0.03*Y2"}, {"dY3 =", "0.03*Y2"}, {"x0 =", "0"},
+             {"Y1(x0) =", "1"}, {"Y2(x0) =", "0"}, {"Y3(x0) =", "0"}, {"bis x =", "10"}},
+            false, 8};
     s[9] = {true, "Vektoren mit drei Komponenten, z.B. 1;2;3",
             {{"Vektor a", "1;2;3"}, {"Vektor b", "-2;0;4"}, {"Vektor c", "0;0;1"}, {"Vektor d", "3;4;0"}},
             false, 4};
@@ -205,6 +209,7 @@ Ergebnis berechne(int nummer, const std::vector<std::string>& f, Abbruch* abbruc
     case 4: return polynomSeite(f);
     case 5: return cramerSeite(f);
     case 6: return nichtlinearSeite(f, abbruch);
+    case 8: return dglSeite(f);
     case 9: return vektorSeite(f);
     case 10: return linearkombinationSeite(f);
     case 12: return standardSeite(f);

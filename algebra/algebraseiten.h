@@ -7,6 +7,7 @@ namespace algebra {
 Ergebnis gaussSeite(const std::vector<std::string>& f);
 Ergebnis matrixSeite(const std::vector<std::string>& f);
 Ergebnis standardSeite(const std::vector<std::string>& f);
+Ergebnis dglSeite(const std::vector<std::string>& f);
 Ergebnis cramerSeite(const std::vector<std::string>& f);
 Ergebnis gleichungSeite(const std::vector<std::string>& f);
 Ergebnis ungleichungSeite(const std::vector<std::string>& f);

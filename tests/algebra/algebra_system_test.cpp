@@ -134,3 +134,42 @@ TEST(Befehl, AlgebraCommand)
     EXPECT_EQ(lauf({"0"}, o, f), 0);  // the stored example
     EXPECT_NE(o.find("    X1 = 2\n"), std::string::npos) << o;
 }
+
+TEST(Differenzialgleichung, DecayChainAgainstClosedForm)
+{
+    // Y1' = -0.04 Y1, Y2' = 0.04 Y1 - 0.03 Y2, Y3' = 0.03 Y2 from (1, 0, 0): the two-member decay
+    // chain with Y1 = e^(-0.04x), Y2 = 4 (e^(-0.03x) - e^(-0.04x)), Y3 = 1 - Y1 - Y2.
+    const Ergebnis e = berechne(8, {"-0.04*Y1", "0.04*Y1-0.03*Y2", "0.03*Y2", "0", "1", "0", "0", "10"});
+    ASSERT_TRUE(e.ok) << alle(e);
+    ASSERT_EQ(e.zeilen.size(), 102u);  // heading, start and 100 intervals of 0.1
+    EXPECT_EQ(e.zeilen[0], "X\tY1\tY2\tY3\tH");
+    for (size_t i = 1; i < e.zeilen.size(); i += 25) {
+        std::istringstream in(e.zeilen[i]);
+        std::string t;
+        std::vector<double> v;
+        while (std::getline(in, t, '\t')) {
+            for (char& c : t)
+                if (c == ',') c = '.';
+            v.push_back(std::atof(t.c_str()));
+        }
+        const double x = v[0], y1 = std::exp(-0.04 * x), y2 = 4 * (std::exp(-0.03 * x) - std::exp(-0.04 * x));
+        EXPECT_NEAR(v[1], y1, 2e-6) << e.zeilen[i];
+        EXPECT_NEAR(v[2], y2, 2e-6) << e.zeilen[i];
+        EXPECT_NEAR(v[3], 1 - y1 - y2, 2e-6) << e.zeilen[i];
+    }
+}
+
+TEST(Differenzialgleichung, BackwardsSingleEquationAndFaults)
+{
+    // y' = y from y(0) = 1 backwards to -1 gives 1/e.
+    const Ergebnis e = berechne(8, {"Y", "", "", "0", "1", "", "", "-1"});
+    ASSERT_TRUE(e.ok) << alle(e);
+    std::string letzte = e.zeilen.back();
+    for (char& c : letzte)
+        if (c == ',') c = '.';
+    EXPECT_NEAR(std::atof(letzte.substr(letzte.find('\t') + 1).c_str()), std::exp(-1.0), 2e-6) << letzte;
+    // sqrt(0.55 - x) is undefined beyond x = 0.55: the run ends with "Abbruch"
+    const Ergebnis pol = berechne(8, {"SQRT(0.55-X)", "", "", "0", "0", "", "", "1"});
+    EXPECT_EQ(pol.zeilen.back(), "Abbruch") << alle(pol);
+    EXPECT_TRUE(berechne(8, {"", "", "", "0", "1", "", "", "1"}).eingabefehler);
+}
