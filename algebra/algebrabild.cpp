@@ -30,32 +30,41 @@ std::vector<std::string> spalten(const std::string& z)
     return r;
 }
 
-// Lines with tabs go to columns of a fixed width; the first column may be wider.
-void zeilenZeichnen(Canvas& c, int x, int y, int breite, int unten, const std::vector<std::string>& zeilen)
+// Lines with tabs go to columns of one common width, so that tables line up.
+void zeilenZeichnen(Canvas& c, int x, int y, int breite, int unten, const std::vector<std::string>& zeilen, int erste)
 {
     c.setFontName("Verdana");
     c.setFontSize(9);
     c.setFontStyle(0);
     c.setBrushStyle(platform::BrushStyle::Clear);
     const int zh = 17;
-    int spalte = 70;
+    int spalte = 60;
     for (const auto& z : zeilen) {
         const auto s = spalten(z);
-        if (s.size() > 1 && s[0].size() > 10) spalte = std::max(spalte, 130);
+        if (s.size() > 1)
+            for (const auto& t : s) spalte = std::max(spalte, c.textWidthW(u(t)) + 16);
     }
-    for (const auto& z : zeilen) {
-        if (y + zh > unten) {
-            c.textOutW(x, y, QString::fromUtf8("\xE2\x80\xA6"));
+    spalte = std::min(spalte, 260);
+    if (erste > 0) {
+        c.textOutW(x, y, QString::fromUtf8("\xE2\x80\xA6 (Mausrad: zurück)"));
+        y += zh;
+    }
+    for (size_t i = static_cast<size_t>(std::max(0, erste)); i < zeilen.size(); ++i) {
+        if (y + 2 * zh > unten && i + 1 < zeilen.size()) {
+            c.textOutW(x, y, QString::fromUtf8("\xE2\x80\xA6 (Mausrad: weitere Zeilen)"));
             break;
         }
-        const auto s = spalten(z);
+        const auto s = spalten(zeilen[i]);
         int xx = x;
-        for (size_t i = 0; i < s.size(); ++i) {
-            if (i == 1 && s[0].empty()) xx = x;  // leading tab as in the truth table
-            c.textOutW(xx, y, u(s[i]));
-            const int w = c.textWidthW(u(s[i])) + 12;
-            xx += std::max(i == 0 && !s[0].empty() ? spalte : 70, w);
-            if (xx > x + breite) break;
+        for (size_t k = 0; k < s.size() && xx < x + breite; ++k) {
+            if (s.size() == 1) {
+                c.textOutW(xx, y, u(s[k]));
+                break;
+            }
+            if (!(k == 0 && s[0].empty())) {  // a leading tab as in the truth table
+                c.textOutW(xx, y, u(s[k]));
+                xx += spalte;
+            }
         }
         y += zh;
     }
@@ -206,7 +215,7 @@ void zeichneErgebnis(Canvas& c, int breite, int hoehe, const Bildinhalt& b)
         textbreite = breite - w - 44;
     }
     c.setFontColor(platform::clBlack);
-    zeilenZeichnen(c, 16, oben + 4, textbreite, hoehe - 6, b.zeilen);
+    zeilenZeichnen(c, 16, oben + 4, textbreite, hoehe - 6, b.zeilen, b.erste);
     if (!b.status.empty()) {
         c.setFontColor(platform::clGray);
         c.setFontSize(8);

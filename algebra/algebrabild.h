@@ -13,6 +13,7 @@ struct Bildinhalt {
     std::vector<std::string> felder;  // as typed; pages 3 and 19 draw their sides from them
     std::vector<std::string> zeilen;  // the result lines (UTF-8, tabs kept)
     std::string status;
+    int erste = 0;  // the first result line shown (the panel scrolls with the mouse wheel)
 };
 
 void zeichneErgebnis(platform::Canvas& c, int breite, int hoehe, const Bildinhalt& b);

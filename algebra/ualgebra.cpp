@@ -15,6 +15,9 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <algorithm>
 
 namespace algebra {
 
@@ -32,7 +35,7 @@ public:
 
     Bildinhalt inhalt() const
     {
-        return {owner_->aktuelleSeite(), owner_->gerechnet_, owner_->zeilen_, ""};
+        return {owner_->aktuelleSeite(), owner_->gerechnet_, owner_->zeilen_, "", erste};
     }
     platform::PaintRoutine routine() const
     {
@@ -40,7 +43,15 @@ public:
         return [b](platform::Canvas& c, int w, int h) { zeichneErgebnis(c, w, h, b); };
     }
 
+    int erste = 0;
+
 protected:
+    void wheelEvent(QWheelEvent* ev) override
+    {
+        const int schritt = ev->angleDelta().y() > 0 ? -5 : 5;
+        erste = std::clamp(erste + schritt, 0, std::max(0, static_cast<int>(owner_->zeilen_.size()) - 5));
+        update();
+    }
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
@@ -257,6 +268,7 @@ void TFalgebra::S1C()
     gerechnet_ = felder();
     const Ergebnis e = berechne(s, gerechnet_, &abbruch);
     zeilen_ = e.zeilen;
+    PB1_->erste = 0;
     status_->setText(e.eingabefehler ? QString::fromUtf8("Bitte die Eingabe prüfen.")
                                      : (abbruch.gestoppt ? QString("Abbruch") : QString()));
     S1_->setText("Berechnung");
