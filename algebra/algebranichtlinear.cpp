@@ -139,7 +139,7 @@ Ergebnis nichtlinearSeite(const std::vector<std::string>& f, Abbruch* abbruch)
         for (const auto& l : loesungen) {
             double d = 0;
             for (size_t i = 0; i < n; ++i) d = std::max(d, std::fabs(l[i] - x[i]));
-            if (d < 1e-5 * (1 + norm(x))) neu = false;
+            if (d < 1e-3 * (1 + norm(x))) neu = false;  // slow convergence at a multiple root scatters a little
         }
         if (!neu) continue;
         loesungen.push_back(x);

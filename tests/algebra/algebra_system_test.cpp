@@ -173,3 +173,20 @@ TEST(Differenzialgleichung, BackwardsSingleEquationAndFaults)
     EXPECT_EQ(pol.zeilen.back(), "Abbruch") << alle(pol);
     EXPECT_TRUE(berechne(8, {"", "", "", "0", "1", "", "", "1"}).eingabefehler);
 }
+
+TEST(Nichtlinear, TwoEquationExampleListsEachSolutionOnce)
+{
+    // The origin is a solution where the Jacobian is singular; slow convergence there must not
+    // produce several rows for the same point.
+    const Ergebnis e = berechne(6, {"X^4+Y^4-12*X*Y", "X*SQRT(ABS(X))-Y*SQRT(ABS(Y))-X", "", ""});
+    const auto z = zeilenwerte(e);
+    ASSERT_FALSE(z.empty()) << alle(e);
+    int amUrsprung = 0;
+    for (const auto& r : z) {
+        const double x = r[0], y = r[1];
+        EXPECT_NEAR(x * x * x * x + y * y * y * y - 12 * x * y, 0, 1e-3) << alle(e);
+        EXPECT_NEAR(x * std::sqrt(std::fabs(x)) - y * std::sqrt(std::fabs(y)) - x, 0, 1e-4) << alle(e);
+        amUrsprung += std::fabs(x) < 0.01 && std::fabs(y) < 0.01;
+    }
+    EXPECT_EQ(amUrsprung, 1) << alle(e);
+}
