@@ -63,6 +63,8 @@ std::vector<Seite> seitenTabelle()
             false, 4};
     s[10] = {true, "Ist c eine Linearkombination von a und b?",
              {{"Vektor a", "1;0;2"}, {"Vektor b", "0;1;-1"}, {"Vektor c", "2;3;1"}}, false, 3};
+    s[11] = {true, "Bruch Z/N (z.B. 3/7) oder Dezimalzahl mit Periode in Klammern (z.B. 0,1(6)); Basis 2 bis 16 für die p-adische Darstellung",
+             {{"Zahl", "1/7"}, {"Basis", "10"}}, false, 2};
     s[12] = {true,
              "Aufgabe 1: a·x + b = c    2: x² + a·x + b = 0    3: a^x = b    6: quadratische Ergänzung von x² + a·x + b",
              {{"Aufgabe (1-6)", "2"}, {"a =", "-2"}, {"b =", "-8"}, {"c =", "0"}}, false, 4};
@@ -212,6 +214,7 @@ Ergebnis berechne(int nummer, const std::vector<std::string>& f, Abbruch* abbruc
     case 8: return dglSeite(f);
     case 9: return vektorSeite(f);
     case 10: return linearkombinationSeite(f);
+    case 11: return bruchSeite(f);
     case 12: return standardSeite(f);
     case 14: return logikSeite(f);
     case 17: return operationstafelSeite(f);
