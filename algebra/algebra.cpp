@@ -54,6 +54,10 @@ std::vector<Seite> seitenTabelle()
     s[6] = {true, "Nur Variablen X, Y, U und V verwenden.",
             {{"0 =", "X^4+Y^4-12*X*Y"}, {"0 =", "X*SQRT(ABS(X))-Y*SQRT(ABS(Y))-X"}, {"0 =", ""}, {"0 =", ""}},
             false, 4};
+    s[7] = {true, "Eingabeform z.B. 23*X+12*Y<23; Variablen X, Y, Z >= 0; Operatoren + - * < >",
+            {{"Zielfunktion", "3*X+5*Y"}, {"Maximum/Minimum", "Maximum"}, {"Bedingung 1", "X<4"}, {"Bedingung 2", "2*Y<12"},
+             {"Bedingung 3", "3*X+2*Y<18"}, {"Bedingung 4", ""}, {"Bedingung 5", ""}, {"Bedingung 6", ""}},
+            false, 8};
     s[8] = {true, "dy = f(X, Y1, Y2, Y3); Startwerte bei x0, Integration bis x = Ende",
             {{"dY1 =", "-0.04*Y1"}, {"dY2 =", "0.04*Y1-0.03*Y2"}, {"dY3 =", "0.03*Y2"}, {"x0 =", "0"},
              {"Y1(x0) =", "1"}, {"Y2(x0) =", "0"}, {"Y3(x0) =", "0"}, {"bis x =", "10"}},
@@ -211,6 +215,7 @@ Ergebnis berechne(int nummer, const std::vector<std::string>& f, Abbruch* abbruc
     case 4: return polynomSeite(f);
     case 5: return cramerSeite(f);
     case 6: return nichtlinearSeite(f, abbruch);
+    case 7: return optimierungSeite(f);
     case 8: return dglSeite(f);
     case 9: return vektorSeite(f);
     case 10: return linearkombinationSeite(f);

@@ -9,6 +9,7 @@ Ergebnis matrixSeite(const std::vector<std::string>& f);
 Ergebnis standardSeite(const std::vector<std::string>& f);
 Ergebnis dglSeite(const std::vector<std::string>& f);
 Ergebnis bruchSeite(const std::vector<std::string>& f);
+Ergebnis optimierungSeite(const std::vector<std::string>& f);
 Ergebnis cramerSeite(const std::vector<std::string>& f);
 Ergebnis gleichungSeite(const std::vector<std::string>& f);
 Ergebnis ungleichungSeite(const std::vector<std::string>& f);
