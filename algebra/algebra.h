@@ -2,6 +2,7 @@
 // The core of the algebra workbench: twenty pages, each a small solver that reads its fields
 // (texts as the user typed them, terms allowed where numbers are expected) and returns the
 // lines of its result list. No Qt here; the window and the headless command share it.
+#include <array>
 #include <string>
 #include <vector>
 
@@ -44,6 +45,21 @@ struct Abbruch {
 };
 
 Ergebnis berechne(int seite, const std::vector<std::string>& felder, Abbruch* abbruch = nullptr);
+
+// The graphic solution of a linear optimisation in X and Y only: the constraint lines
+// a x + b y <= c (X, Y >= 0 implied), the corners of the feasible polygon in order, cut off
+// by a box of side `rand` where the region is open.
+struct Punkt2 {
+    double x, y;
+};
+struct Grafik2D {
+    bool ok = false;
+    std::vector<std::array<double, 3>> geraden;
+    std::vector<Punkt2> ecken;
+    std::array<double, 2> ziel{};
+    double rand = 0;
+};
+Grafik2D optimierungsGrafik(const std::vector<std::string>& felder);
 
 // Reads a number field through the term interpreter: comma as point, upper case; false on a
 // term fault or an empty text.

@@ -1,6 +1,7 @@
 // Linear optimisation in X, Y, Z >= 0: two-phase simplex with Bland's rule.
 #include "algebra/algebraseiten.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cmath>
 
@@ -89,7 +90,63 @@ struct Tableau {
     }
 };
 
+// Clips a convex polygon by a x + b y <= c (Sutherland-Hodgman).
+std::vector<Punkt2> schneide(const std::vector<Punkt2>& poly, double a, double b, double c)
+{
+    std::vector<Punkt2> out;
+    const size_t n = poly.size();
+    for (size_t i = 0; i < n; ++i) {
+        const Punkt2 p = poly[i], q = poly[(i + 1) % n];
+        const double fp = a * p.x + b * p.y - c, fq = a * q.x + b * q.y - c;
+        if (fp <= 1e-9) out.push_back(p);
+        if ((fp < -1e-9 && fq > 1e-9) || (fp > 1e-9 && fq < -1e-9)) {
+            const double t = fp / (fp - fq);
+            out.push_back({p.x + t * (q.x - p.x), p.y + t * (q.y - p.y)});
+        }
+    }
+    // drop repeated corners that clipping through a vertex leaves behind
+    std::vector<Punkt2> r;
+    for (const auto& p : out)
+        if (r.empty() || std::fabs(r.back().x - p.x) + std::fabs(r.back().y - p.y) > 1e-9) r.push_back(p);
+    while (r.size() > 1 && std::fabs(r.front().x - r.back().x) + std::fabs(r.front().y - r.back().y) <= 1e-9) r.pop_back();
+    return r;
+}
+
 }  // namespace
+
+Grafik2D optimierungsGrafik(const std::vector<std::string>& f)
+{
+    Grafik2D g;
+    if (f.size() < 3) return g;
+    double ziel[3];
+    if (!leseLinear(f[0], ziel) || ziel[2] != 0) return g;
+    double groesste = 1;
+    for (size_t i = 2; i < f.size(); ++i) {
+        if (f[i].find_first_not_of(' ') == std::string::npos) continue;
+        const size_t p = f[i].find_first_of("<>");
+        double k[3], b;
+        std::string rechts = p == std::string::npos ? "" : f[i].substr(p + 1);
+        if (!rechts.empty() && rechts[0] == '=') rechts.erase(0, 1);
+        if (p == std::string::npos || !leseLinear(f[i].substr(0, p), k) || !leseZahl(rechts, b) || k[2] != 0) return Grafik2D{};
+        if (f[i][p] == '>') {
+            k[0] = -k[0];
+            k[1] = -k[1];
+            b = -b;
+        }
+        g.geraden.push_back({k[0], k[1], b});
+        for (double kk : {k[0], k[1]})
+            if (std::fabs(kk) > 1e-12) groesste = std::max(groesste, std::fabs(b / kk));
+    }
+    if (g.geraden.empty()) return g;
+    g.ziel = {ziel[0], ziel[1]};
+    // a box larger than every axis intercept stands for the open quadrant
+    g.rand = 2 * groesste;
+    std::vector<Punkt2> poly = {{0, 0}, {g.rand, 0}, {g.rand, g.rand}, {0, g.rand}};
+    for (const auto& l : g.geraden) poly = schneide(poly, l[0], l[1], l[2]);
+    g.ecken = poly;
+    g.ok = true;
+    return g;
+}
 
 Ergebnis optimierungSeite(const std::vector<std::string>& f)
 {
@@ -184,6 +241,14 @@ Ergebnis optimierungSeite(const std::vector<std::string>& f)
     const double wert = ziel[0] * x[0] + ziel[1] * x[1] + ziel[2] * x[2];
     e.zeilen.push_back(std::string(maximum ? "Maximum = " : "Minimum = ") + zahl(wert));
     e.zeilen.push_back("Optimum x = " + zahl(x[0]) + "; y = " + zahl(x[1]) + "; z = " + zahl(x[2]));
+    const Grafik2D g = optimierungsGrafik(f);
+    if (g.ok) {
+        // the corners of the feasible polygon, as the graphic solution shows them
+        e.zeilen.push_back("Ecken des Bereichs der zulässigen Punkte:");
+        for (const auto& p : g.ecken)
+            if (p.x < g.rand * 0.999 && p.y < g.rand * 0.999)
+                e.zeilen.push_back("(P)\t" + zahl(p.x) + "\t" + zahl(p.y) + "\t" + zahl(ziel[0] * p.x + ziel[1] * p.y));
+    }
     e.ok = true;
     return e;
 }

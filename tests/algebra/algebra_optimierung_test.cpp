@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+
 using namespace algebra;
 
 namespace {
@@ -53,4 +56,22 @@ TEST(Optimierung, InfeasibleUnboundedAndBadInput)
     EXPECT_TRUE(berechne(7, lp("X+Y", "Maximum", {"X+Y=1"})).eingabefehler);
     EXPECT_TRUE(berechne(7, lp("X+W", "Maximum", {"X<1"})).eingabefehler);
     EXPECT_TRUE(berechne(7, lp("X+Y", "Mitte", {"X<1"})).eingabefehler);
+}
+
+TEST(Optimierung, CornersOfTheFeasiblePolygon)
+{
+    // The product mix above has the corners (0,0), (4,0), (4,3), (2,6), (0,6).
+    const Grafik2D g = optimierungsGrafik(lp("3*X+5*Y", "Maximum", {"X<4", "2*Y<12", "3*X+2*Y<18"}));
+    ASSERT_TRUE(g.ok);
+    const std::vector<std::pair<double, double>> soll = {{0, 0}, {4, 0}, {4, 3}, {2, 6}, {0, 6}};
+    ASSERT_EQ(g.ecken.size(), soll.size());
+    for (const auto& [x, y] : soll) {
+        bool da = false;
+        for (const auto& p : g.ecken) da = da || (std::fabs(p.x - x) < 1e-9 && std::fabs(p.y - y) < 1e-9);
+        EXPECT_TRUE(da) << "(" << x << ", " << y << ") missing";
+    }
+    const Ergebnis e = berechne(7, lp("3*X+5*Y", "Maximum", {"X<4", "2*Y<12", "3*X+2*Y<18"}));
+    EXPECT_NE(std::find(e.zeilen.begin(), e.zeilen.end(), "(P)\t2\t6\t36"), e.zeilen.end()) << alle(e);
+    // a problem in three variables has no graphic solution
+    EXPECT_FALSE(optimierungsGrafik(lp("X+Y+Z", "Maximum", {"X+Y+Z<1"})).ok);
 }
