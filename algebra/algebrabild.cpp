@@ -8,6 +8,7 @@
 #include <QString>
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace algebra {
 
@@ -188,6 +189,73 @@ void vorschauZeichnen(Canvas& c, int x, int y, int w, int h, const Bildinhalt& b
     c.textOutW(x + w - 6 - c.textWidthW(be), y + h - 16, be);
 }
 
+// The graphic solution: feasible polygon, constraint lines, objective line through the optimum.
+void optimierungZeichnen(Canvas& c, int x, int y, int w, int h, const Bildinhalt& b)
+{
+    const Grafik2D g = optimierungsGrafik(b.felder);
+    if (!g.ok || g.ecken.empty()) return;
+    double m = 1;
+    for (const auto& p : g.ecken)
+        if (p.x < g.rand * 0.999 && p.y < g.rand * 0.999) m = std::max({m, p.x, p.y});
+    m *= 1.25;
+    auto px = [&](double v) { return x + kernel::SafeRound(v / m * w); };
+    auto py = [&](double v) { return y + h - kernel::SafeRound(v / m * h); };
+    c.setPenColor(platform::clGray);
+    c.setBrushStyle(platform::BrushStyle::Solid);
+    c.setBrushColor(platform::clWhite);
+    c.rectangle(x, y, x + w + 1, y + h + 1);
+    std::vector<QPoint> poly;
+    for (const auto& p : g.ecken) poly.push_back({px(std::min(p.x, m)), py(std::min(p.y, m))});
+    c.setBrushColor(platform::rgb(200, 230, 200));
+    c.setPenColor(platform::rgb(0, 128, 0));
+    c.polygon(poly);
+    c.setBrushStyle(platform::BrushStyle::Clear);
+    c.painter().save();
+    c.painter().setClipRect(x, y, w + 1, h + 1);
+    // constraint lines across the whole square
+    c.setPenColor(platform::clNavy);
+    for (const auto& l : g.geraden) {
+        if (std::fabs(l[1]) > 1e-12) {
+            c.moveTo(px(0), py(l[2] / l[1]));
+            c.lineTo(px(m), py((l[2] - l[0] * m) / l[1]));
+        } else if (std::fabs(l[0]) > 1e-12) {
+            c.moveTo(px(l[2] / l[0]), py(0));
+            c.lineTo(px(l[2] / l[0]), py(m));
+        }
+    }
+    // the objective line through the listed optimum
+    for (const auto& z : b.zeilen)
+        if (z.rfind("Optimum x = ", 0) == 0 && std::fabs(g.ziel[1]) > 1e-12) {
+            std::string t = z.substr(12);
+            for (char& ch : t)
+                if (ch == ',') ch = '.';
+            const double ox = std::atof(t.c_str());
+            const size_t p = t.find("y = ");
+            const double oy = p == std::string::npos ? 0 : std::atof(t.c_str() + p + 4);
+            const double wert = g.ziel[0] * ox + g.ziel[1] * oy;
+            c.setPenColor(platform::clRed);
+            c.setPenWidth(2);
+            c.moveTo(px(0), py(wert / g.ziel[1]));
+            c.lineTo(px(m), py((wert - g.ziel[0] * m) / g.ziel[1]));
+            c.setPenWidth(1);
+            c.setBrushStyle(platform::BrushStyle::Solid);
+            c.setBrushColor(platform::clRed);
+            c.ellipse(px(ox) - 4, py(oy) - 4, px(ox) + 5, py(oy) + 5);
+            c.setBrushStyle(platform::BrushStyle::Clear);
+        }
+    c.painter().restore();
+    c.setFontSize(8);
+    c.setFontStyle(0);
+    c.setFontColor(platform::clBlack);
+    c.textOutW(x + 4, y + h - 16, "0");
+    const QString mx = u(zahl(m, 2));
+    c.textOutW(x + w - 4 - c.textWidthW(mx), y + h - 16, mx);
+    c.textOutW(x + 4, y + 4, mx);
+    c.setFontColor(platform::clGray);
+    c.textOutW(x, y + h + 4, QString::fromUtf8("Die grafische Lösung gibt es nur"));
+    c.textOutW(x, y + h + 18, QString::fromUtf8("für zweidimensionale Probleme."));
+}
+
 }  // namespace
 
 void zeichneErgebnis(Canvas& c, int breite, int hoehe, const Bildinhalt& b)
@@ -209,7 +277,11 @@ void zeichneErgebnis(Canvas& c, int breite, int hoehe, const Bildinhalt& b)
         return;
     }
     int textbreite = breite - 32;
-    if (b.seite == 3 || b.seite == 19) {
+    if (b.seite == 7 && !b.zeilen.empty()) {
+        const int w = std::min(300, breite / 2 - 20);
+        optimierungZeichnen(c, breite - w - 12, oben + 4, w, std::min(300, hoehe - oben - 40), b);
+        textbreite = breite - w - 44;
+    } else if (b.seite == 3 || b.seite == 19) {
         const int w = std::min(300, breite / 2 - 20);
         vorschauZeichnen(c, breite - w - 12, oben + 4, w, std::min(230, hoehe - oben - 16), b);
         textbreite = breite - w - 44;

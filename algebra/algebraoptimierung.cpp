@@ -245,6 +245,7 @@ Ergebnis optimierungSeite(const std::vector<std::string>& f)
     if (g.ok) {
         // the corners of the feasible polygon, as the graphic solution shows them
         e.zeilen.push_back("Ecken des Bereichs der zulässigen Punkte:");
+        e.zeilen.push_back("Ecke\tx\ty\tZielwert");
         for (const auto& p : g.ecken)
             if (p.x < g.rand * 0.999 && p.y < g.rand * 0.999)
                 e.zeilen.push_back("(P)\t" + zahl(p.x) + "\t" + zahl(p.y) + "\t" + zahl(ziel[0] * p.x + ziel[1] * p.y));
