@@ -32,12 +32,20 @@ std::string gaussHinweis()
     return s + " = B;  je Gleichung die Koeffizienten A1 A2 ... und B durch Leerzeichen getrennt";
 }
 
+std::string diophantHinweis()
+{
+    std::string s = "A1·X1";
+    for (int i = 2; i <= 9; ++i) s += " + A" + std::to_string(i) + "·X" + std::to_string(i);
+    return s + " = B; nur ganzzahlige Koeffizienten A und B verwenden";
+}
+
 std::vector<Seite> seitenTabelle()
 {
     std::vector<Seite> s(seitenzahl);
     s[0] = {true, gaussHinweis(),
             {{"Gleichung 1", "2 1 -1 8"}, {"Gleichung 2", "-3 -1 2 -11"}, {"Gleichung 3", "-2 1 2 -3"}},
             true, 10};
+    s[1] = {true, diophantHinweis(), {{"Gleichung 1", "3 5 7 1"}, {"Gleichung 2", "1 1 1 1"}}, true, 9};
     s[2] = {true, "Koeffizienten der Matrix A und B zeilenweise, Zeilen durch ; getrennt; Rechnung: A, B, A+B, A-B, -A, A*B, B*A, AT, A^-1, A^2, A^n",
             {{"Matrix A", "2 1 0; 1 3 1; 0 1 4"}, {"Matrix B", "1 0 0; 0 2 0; 1 0 1"}, {"Rechnung", "A*B"}, {"n =", "3"}},
             false, 4};
@@ -210,6 +218,7 @@ Ergebnis berechne(int nummer, const std::vector<std::string>& f, Abbruch* abbruc
 {
     switch (nummer) {
     case 0: return gaussSeite(f);
+    case 1: return diophantSeite(f);
     case 2: return matrixSeite(f);
     case 3: return gleichungSeite(f);
     case 4: return polynomSeite(f);

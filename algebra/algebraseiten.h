@@ -10,6 +10,7 @@ Ergebnis standardSeite(const std::vector<std::string>& f);
 Ergebnis dglSeite(const std::vector<std::string>& f);
 Ergebnis bruchSeite(const std::vector<std::string>& f);
 Ergebnis optimierungSeite(const std::vector<std::string>& f);
+Ergebnis diophantSeite(const std::vector<std::string>& f);
 Ergebnis cramerSeite(const std::vector<std::string>& f);
 Ergebnis gleichungSeite(const std::vector<std::string>& f);
 Ergebnis ungleichungSeite(const std::vector<std::string>& f);

@@ -182,6 +182,7 @@ void TFalgebra::LB1C()
     zeilen_.clear();
     gerechnet_.clear();
     anzahl_->blockSignals(true);
+    anzahl_->setMaximum(s.zeilenfelder ? s.maxfelder : 10);  // 10 for Gauss, 9 for the Diophantine page
     anzahl_->setValue(s.zeilenfelder ? static_cast<int>(s.felder.size()) : 1);
     anzahl_->blockSignals(false);
     // a page opens with its example, so that a first press of "Berechnung" shows something
