@@ -68,3 +68,20 @@ TEST(Bruch, BadInput)
     EXPECT_TRUE(berechne(11, {"0,1(6", "10"}).eingabefehler);
     EXPECT_TRUE(berechne(11, {"1/3", "17"}).eingabefehler);
 }
+
+TEST(Jahreszinsen, GermanDayCount)
+{
+    // 1000 € at 3 % for the whole year: 30 € interest.
+    const Ergebnis e = berechne(16, {"1000", "3", ""});
+    EXPECT_EQ(e.zeilen[e.zeilen.size() - 2], "Jahreszinsen in € = 30") << alle(e);
+    EXPECT_EQ(e.zeilen.back(), "Kapital am 31.12. in € = 1030");
+    // 500 € on 15.3.: 360 - (2·30 + 14) = 286 days, 500 · 0.03 · 286/360 = 11.92 €;
+    // -200 € on 1.7.: 180 days, -3 €. Total 30 + 11.92 - 3 = 38.92 €, capital 1300 + 38.92.
+    const Ergebnis b = berechne(16, {"1000", "3", "15.3. 500; 1.7. -200"});
+    EXPECT_TRUE(hat(b, "15.3.\t500\t286\t11.92") || hat(b, "15.3.\t500\t286\t11,92")) << alle(b);
+    EXPECT_TRUE(hat(b, "Jahreszinsen in € = 38.92") || hat(b, "Jahreszinsen in € = 38,92")) << alle(b);
+    EXPECT_TRUE(hat(b, "Kapital am 31.12. in € = 1338.92") || hat(b, "Kapital am 31.12. in € = 1338,92")) << alle(b);
+    EXPECT_TRUE(berechne(16, {"1000", "3", "30.2. 100"}).eingabefehler);
+    EXPECT_TRUE(berechne(16, {"1000", "3", "15.3."}).eingabefehler);
+    EXPECT_TRUE(berechne(16, {"1000", "-1", ""}).eingabefehler);
+}
