@@ -87,6 +87,8 @@ std::vector<Seite> seitenTabelle()
              "- NOT, Negation   +,& AND, Konjunktion   *,| OR, Disjunktion   # XOR, Alternative   "
              "> Implikation   = Äquivalenz   \\ NAND-Operation   / NOR-Operation   1 TRUE   0 FALSE",
              {{"Aussage", "(A>B)&(B>C)>(A>C)"}}, false, 1};
+    s[15] = {true, "Elemente durch Leerzeichen getrennt; Verknüpfung mit + Vereinigung, * Schnitt, - Differenz, ' Komplement in A+B+C",
+             {{"Menge A", "1 2 3 4 5"}, {"Menge B", "4 5 6 7"}, {"Menge C", "1 5 7 9"}, {"Verknüpfung", "(A+B)*C'"}}, false, 4};
     s[16] = {true, "Deutsche Zinsmethode: jeder Monat 30 Tage, das Jahr 360 Tage; der Buchungstag zählt mit. Buchungen z.B. 15.3. 500; 1.7. -200",
              {{"Kapital am 1.1. in €", "1000"}, {"Zinssatz in %", "3"}, {"Buchungen", "15.3. 500; 1.7. -200"}}, false, 3};
     s[17] = {true, "Modul n von 2 bis 30; Verknüpfung Addition oder Multiplikation",
@@ -233,6 +235,7 @@ Ergebnis berechne(int nummer, const std::vector<std::string>& f, Abbruch* abbruc
     case 11: return bruchSeite(f);
     case 12: return standardSeite(f);
     case 14: return logikSeite(f);
+    case 15: return mengenSeite(f);
     case 16: return zinsenSeite(f);
     case 17: return operationstafelSeite(f);
     case 18: return diederSeite(f);

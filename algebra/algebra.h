@@ -61,6 +61,10 @@ struct Grafik2D {
 };
 Grafik2D optimierungsGrafik(const std::vector<std::string>& felder);
 
+// The regions of the Venn diagram that a set expression covers: bit r stands for the
+// elements in exactly the sets of pattern r (A = 1, B = 2, C = 4). False on a bad expression.
+bool mengenBereiche(const std::string& ausdruck, unsigned& regionen);
+
 // Reads a number field through the term interpreter: comma as point, upper case; false on a
 // term fault or an empty text.
 bool leseZahl(const std::string& text, double& wert);

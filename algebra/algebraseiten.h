@@ -12,6 +12,7 @@ Ergebnis bruchSeite(const std::vector<std::string>& f);
 Ergebnis optimierungSeite(const std::vector<std::string>& f);
 Ergebnis diophantSeite(const std::vector<std::string>& f);
 Ergebnis zinsenSeite(const std::vector<std::string>& f);
+Ergebnis mengenSeite(const std::vector<std::string>& f);
 Ergebnis cramerSeite(const std::vector<std::string>& f);
 Ergebnis gleichungSeite(const std::vector<std::string>& f);
 Ergebnis ungleichungSeite(const std::vector<std::string>& f);

@@ -145,3 +145,27 @@ TEST(Gruppen, DihedralTablesAreGroups)
         EXPECT_EQ(involutionen, n + (n % 2 == 0 ? 1 : 0)) << "D" << n;
     }
 }
+
+TEST(Mengen, OperationsOnThreeSets)
+{
+    const std::vector<std::string> m = {"1 2 3 4 5", "4 5 6 7", "1 5 7 9"};
+    auto rechne = [&](const std::string& op) {
+        auto f = m;
+        f.push_back(op);
+        const Ergebnis e = berechne(15, f);
+        return e.zeilen.size() > 3 ? e.zeilen[3] : std::string("-");
+    };
+    EXPECT_EQ(rechne("A+B"), "A+B = {1; 2; 3; 4; 5; 6; 7}");
+    EXPECT_EQ(rechne("A*B*C"), "A*B*C = {5}");
+    EXPECT_EQ(rechne("A-B"), "A-B = {1; 2; 3}");
+    EXPECT_EQ(rechne("(A+B)*C'"), "(A+B)*C' = {2; 3; 4; 6}");
+    // De Morgan within the universe A ∪ B ∪ C: (A ∪ B)' = A' ∩ B'
+    unsigned l, r;
+    ASSERT_TRUE(mengenBereiche("(A+B)'", l));
+    ASSERT_TRUE(mengenBereiche("A'*B'", r));
+    EXPECT_EQ(l, r);
+    EXPECT_EQ(l, 1u << 4);  // only the part of C outside A and B
+    EXPECT_FALSE(mengenBereiche("A+", l));
+    EXPECT_FALSE(mengenBereiche("A?B", l));
+    EXPECT_TRUE(berechne(15, {"1", "2", "3", "(A"}).eingabefehler);
+}
