@@ -256,6 +256,49 @@ void optimierungZeichnen(Canvas& c, int x, int y, int w, int h, const Bildinhalt
     c.textOutW(x, y + h + 18, QString::fromUtf8("für zweidimensionale Probleme."));
 }
 
+// Three circles; the regions that the expression covers are filled cell by cell.
+void vennZeichnen(Canvas& c, int x, int y, int w, int h, const Bildinhalt& b)
+{
+    unsigned regionen = 0;
+    if (b.felder.size() < 4 || !mengenBereiche(b.felder[3], regionen)) return;
+    const int r = std::min(w, h) * 3 / 10;
+    const int mx = x + w / 2, my = y + h / 2;
+    const QPoint mitte[3] = {{mx - r / 2, my - r / 3}, {mx + r / 2, my - r / 3}, {mx, my + r / 2}};
+    c.setPenColor(platform::clGray);
+    c.setBrushStyle(platform::BrushStyle::Solid);
+    c.setBrushColor(platform::clWhite);
+    c.rectangle(x, y, x + w, y + h);
+    c.setPenStyle(platform::PenStyle::Clear);
+    c.setBrushColor(platform::rgb(255, 200, 120));
+    const int zelle = 2;
+    for (int py = y + 1; py < y + h - 1; py += zelle)
+        for (int px = x + 1; px < x + w - 1; px += zelle) {
+            unsigned muster = 0;
+            for (int i = 0; i < 3; ++i) {
+                const int dx = px - mitte[i].x(), dy = py - mitte[i].y();
+                if (dx * dx + dy * dy <= r * r) muster |= 1u << i;
+            }
+            if (muster && ((regionen >> muster) & 1u)) c.fillRect(px, py, px + zelle, py + zelle);
+        }
+    c.setPenStyle(platform::PenStyle::Solid);
+    c.setBrushStyle(platform::BrushStyle::Clear);
+    const platform::TColor farben[3] = {platform::clBlue, platform::clRed, platform::rgb(0, 128, 0)};
+    const char* namen[3] = {"A", "B", "C"};
+    c.setFontSize(12);
+    c.setFontStyle(platform::fsBold);
+    for (int i = 0; i < 3; ++i) {
+        c.setPenColor(farben[i]);
+        c.setPenWidth(2);
+        c.ellipse(mitte[i].x() - r, mitte[i].y() - r, mitte[i].x() + r, mitte[i].y() + r);
+        c.setFontColor(farben[i]);
+        const int lx = i == 0 ? mitte[i].x() - r - 4 : i == 1 ? mitte[i].x() + r - 8 : mitte[i].x() - 6;
+        const int ly = i == 2 ? mitte[i].y() + r + 2 : mitte[i].y() - r - 18;
+        c.textOutW(lx, ly, namen[i]);
+    }
+    c.setPenWidth(1);
+    c.setFontStyle(0);
+}
+
 }  // namespace
 
 void zeichneErgebnis(Canvas& c, int breite, int hoehe, const Bildinhalt& b)
@@ -277,7 +320,11 @@ void zeichneErgebnis(Canvas& c, int breite, int hoehe, const Bildinhalt& b)
         return;
     }
     int textbreite = breite - 32;
-    if (b.seite == 7 && !b.zeilen.empty()) {
+    if (b.seite == 15 && !b.zeilen.empty()) {
+        const int w = std::min(320, breite / 2 - 20);
+        vennZeichnen(c, breite - w - 12, oben + 4, w, std::min(300, hoehe - oben - 16), b);
+        textbreite = breite - w - 44;
+    } else if (b.seite == 7 && !b.zeilen.empty()) {
         const int w = std::min(300, breite / 2 - 20);
         optimierungZeichnen(c, breite - w - 12, oben + 4, w, std::min(300, hoehe - oben - 40), b);
         textbreite = breite - w - 44;
