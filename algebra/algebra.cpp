@@ -80,9 +80,8 @@ std::vector<Seite> seitenTabelle()
     s[12] = {true,
              "Aufgabe 1: a·x + b = c    2: x² + a·x + b = 0    3: a^x = b    6: quadratische Ergänzung von x² + a·x + b",
              {{"Aufgabe (1-6)", "2"}, {"a =", "-2"}, {"b =", "-8"}, {"c =", "0"}}, false, 4};
-    s[13] = {true, "Ungleichungen werden auf der Seite \"Numerische Lösung einer Ungleichung\" gelöst.",
-             {}, false, 0};
-    s[13].vorhanden = false;
+    s[13] = {true, "Lineare Ungleichung a·x + b < c·x + d (Relation <, <=, > oder >=)",
+             {{"a =", "-2"}, {"b =", "3"}, {"Relation", "<"}, {"c =", "1"}, {"d =", "-6"}}, false, 5};
     s[14] = {true,
              "- NOT, Negation   +,& AND, Konjunktion   *,| OR, Disjunktion   # XOR, Alternative   "
              "> Implikation   = Äquivalenz   \\ NAND-Operation   / NOR-Operation   1 TRUE   0 FALSE",
@@ -234,6 +233,7 @@ Ergebnis berechne(int nummer, const std::vector<std::string>& f, Abbruch* abbruc
     case 10: return linearkombinationSeite(f);
     case 11: return bruchSeite(f);
     case 12: return standardSeite(f);
+    case 13: return ungleichungLinearSeite(f);
     case 14: return logikSeite(f);
     case 15: return mengenSeite(f);
     case 16: return zinsenSeite(f);

@@ -13,6 +13,7 @@ Ergebnis optimierungSeite(const std::vector<std::string>& f);
 Ergebnis diophantSeite(const std::vector<std::string>& f);
 Ergebnis zinsenSeite(const std::vector<std::string>& f);
 Ergebnis mengenSeite(const std::vector<std::string>& f);
+Ergebnis ungleichungLinearSeite(const std::vector<std::string>& f);
 Ergebnis cramerSeite(const std::vector<std::string>& f);
 Ergebnis gleichungSeite(const std::vector<std::string>& f);
 Ergebnis ungleichungSeite(const std::vector<std::string>& f);

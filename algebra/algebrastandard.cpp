@@ -97,3 +97,44 @@ Ergebnis standardSeite(const std::vector<std::string>& f)
 }
 
 }  // namespace algebra
+
+namespace algebra {
+
+// A linear inequality a·x + b R c·x + d, solved the school way: collect x on the left and
+// turn the relation round when dividing by a negative number.
+Ergebnis ungleichungLinearSeite(const std::vector<std::string>& f)
+{
+    if (f.size() != 5) return eingabefehler("Die Ungleichung braucht a, b, die Relation, c und d.");
+    double v[4];
+    const int index[4] = {0, 1, 3, 4};
+    for (int i = 0; i < 4; ++i)
+        if (!leseZahl(f[index[i]], v[i])) return eingabefehler("Ungültige Zahl: " + f[index[i]]);
+    std::string rel;
+    for (char c : f[2])
+        if (c != ' ') rel += c;
+    if (rel != "<" && rel != "<=" && rel != ">" && rel != ">=") return eingabefehler("Relation muss <, <=, > oder >= sein.");
+    const double a = v[0] - v[2], r = v[3] - v[1];
+    Ergebnis e;
+    e.zeilen = {zahl(v[0]) + "·x + " + zahl(v[1]) + " " + rel + " " + zahl(v[2]) + "·x + " + zahl(v[3]),
+                zahl(a) + "·x " + rel + " " + zahl(r)};
+    if (a == 0) {
+        const bool gilt = rel == "<" ? 0 < r : rel == "<=" ? 0 <= r : rel == ">" ? 0 > r : 0 >= r;
+        e.zeilen.push_back(gilt ? "wahr für alle x: L = R" : "keine Lösung: L = { }");
+        e.ok = gilt;
+        return e;
+    }
+    std::string neu = rel;
+    if (a < 0) {
+        neu = rel[0] == '<' ? ">" + rel.substr(1) : "<" + rel.substr(1);
+        e.zeilen.push_back("Division durch " + zahl(a) + " < 0 kehrt das Relationszeichen um");
+    }
+    const double g = r / a;
+    e.zeilen.push_back("x " + neu + " " + zahl(g));
+    const bool offen = neu.size() == 1;
+    if (neu[0] == '<') e.zeilen.push_back("L = ] -∞ ; " + zahl(g) + (offen ? " [" : " ]"));
+    else e.zeilen.push_back(std::string("L = ") + (offen ? "] " : "[ ") + zahl(g) + " ; ∞ [");
+    e.ok = true;
+    return e;
+}
+
+}  // namespace algebra

@@ -40,5 +40,5 @@ int cmdAlgebra(const Args& a, std::ostream& out, std::ostream& err)
 
 std::vector<quorix::HeadlessCommand> algebraCommands()
 {
-    return {{"algebra", "algebra SEITE EINGABE... - eine Seite der Algebra-Werkbank berechnen (0 LGS, 1 diophantisch, 2 Matrizen, 3 Gleichung, 4 Polynom, 5 Cramer, 6 nichtlinear, 7 Optimierung, 8 DGL, 9/10 Vektoren, 11 Brüche, 12 Standardaufgaben, 14 Logik, 15 Mengen, 16 Zinsen, 17/18 Tafeln, 19 Ungleichung)", cmdAlgebra}};
+    return {{"algebra", "algebra SEITE EINGABE... - eine Seite der Algebra-Werkbank berechnen (0 LGS, 1 diophantisch, 2 Matrizen, 3 Gleichung, 4 Polynom, 5 Cramer, 6 nichtlinear, 7 Optimierung, 8 DGL, 9/10 Vektoren, 11 Brüche, 12 Standardaufgaben, 13 lineare Ungleichung, 14 Logik, 15 Mengen, 16 Zinsen, 17/18 Tafeln, 19 Ungleichung)", cmdAlgebra}};
 }

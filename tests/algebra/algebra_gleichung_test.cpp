@@ -140,3 +140,17 @@ TEST(Standardaufgaben, StepByStep)
     EXPECT_EQ(berechne(12, {"6", "6", "5", ""}).zeilen.back(), "Scheitelpunkt S(-3 ; -4)");
     EXPECT_TRUE(berechne(12, {"7", "1", "1", ""}).eingabefehler);
 }
+
+TEST(Ungleichung, LinearStepByStep)
+{
+    // -2x + 3 < x - 6  <=>  -3x < -9  <=>  x > 3
+    const Ergebnis e = berechne(13, {"-2", "3", "<", "1", "-6"});
+    EXPECT_EQ(e.zeilen.back(), "L = ] 3 ; ∞ [") << alle(e);
+    EXPECT_EQ(e.zeilen[e.zeilen.size() - 2], "x > 3") << alle(e);
+    // 2x <= 4 keeps its direction and the bound
+    EXPECT_EQ(berechne(13, {"2", "0", "<=", "0", "4"}).zeilen.back(), "L = ] -∞ ; 2 ]");
+    // x + 1 > x holds everywhere, x > x + 1 nowhere
+    EXPECT_EQ(berechne(13, {"1", "1", ">", "1", "0"}).zeilen.back(), "wahr für alle x: L = R");
+    EXPECT_FALSE(berechne(13, {"1", "0", ">", "1", "1"}).ok);
+    EXPECT_TRUE(berechne(13, {"1", "0", "=", "1", "1"}).eingabefehler);
+}
