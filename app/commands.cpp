@@ -3,12 +3,14 @@
 #include "app/teilprogramm.h"
 #include "app/winfkt.h"
 #include "app/lint.h"
+#include "algebra/numer_commands.h"
 #include "astronomy/commands.h"
 #include "crypto/commands.h"
 #include "dynamics/chaos_commands.h"
 #include "dynamics/commands.h"
 #include "games/commands.h"
 #include "geometry/commands.h"
+#include "geometry/poly_commands.h"
 #include "stochastics/commands.h"
 #include "graphs/commands.h"
 #include "numbers/commands.h"
@@ -330,7 +332,7 @@ std::vector<quorix::HeadlessCommand> alleBefehle()
     std::vector<quorix::HeadlessCommand> alle = appCommands();
     for (auto* satz : {&kernel::kernelCommands, &quorix::termCommands, &platform::platformCommands, &crypto::cryptoCommands,
                        &::astronomyCommands, &::numbersCommands, &graphs::graphsCommands,
-                       &::factorCommands, &::gamesCommands, &::dynamicsCommands, &::chaosCommands, &::geometryCommands, &::stochasticsCommands}) {
+                       &::factorCommands, &::gamesCommands, &::dynamicsCommands, &::chaosCommands, &::geometryCommands, &::polyCommands, &::numerCommands, &::stochasticsCommands}) {
         auto mehr = satz();
         alle.insert(alle.end(), mehr.begin(), mehr.end());
     }

@@ -13,24 +13,8 @@ using quorix::Args;
 
 namespace {
 
-bool toNumber(const std::string& s, double& v)
-{
-    if (s.empty()) return false;
-    std::string t = s;
-    for (char& c : t)
-        if (c == ',') c = '.';
-    char* end = nullptr;
-    v = std::strtod(t.c_str(), &end);
-    return end && *end == '\0' && std::isfinite(v);
-}
-
-bool toInt(const std::string& s, int& v)
-{
-    double d;
-    if (!toNumber(s, d) || d != std::floor(d) || std::fabs(d) > 1e6) return false;
-    v = static_cast<int>(d);
-    return true;
-}
+bool toNumber(const std::string& s, double& v) { return quorix::argNumber(s, v); }
+bool toInt(const std::string& s, int& v) { return quorix::argInt(s, v, -1000000, 1000000); }
 
 std::string num(double v, int decimals = 6)
 {

@@ -17,24 +17,8 @@ using quorix::Args;
 
 namespace {
 
-bool toNumber(const std::string& s, double& v)
-{
-    if (s.empty()) return false;
-    std::string t = s;
-    for (char& c : t)
-        if (c == ',') c = '.';
-    char* end = nullptr;
-    v = std::strtod(t.c_str(), &end);
-    return end && *end == '\0' && std::isfinite(v);
-}
-
-bool toInt(const std::string& s, int& v, int lo, int hi)
-{
-    double d;
-    if (!toNumber(s, d) || d != std::floor(d) || d < lo || d > hi) return false;
-    v = static_cast<int>(d);
-    return true;
-}
+bool toNumber(const std::string& s, double& v) { return quorix::argNumber(s, v); }
+bool toInt(const std::string& s, int& v, int lo, int hi) { return quorix::argInt(s, v, lo, hi); }
 
 std::string num(double v, int decimals)
 {

@@ -1,6 +1,7 @@
 #include "geometry/commands.h"
 
 #include "geometry/dreieck.h"
+#include "geometry/konstrubefehl.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,15 +14,8 @@ namespace {
 const char* kAufruf =
     "Aufruf: quorix dreieck AX AY BX BY CX CY [--objekt NAME]... [--alle] [--trilinear]";
 
-bool zahl(const std::string& s, double& v)
-{
-    if (s.empty()) return false;
-    std::string t = s;
-    std::replace(t.begin(), t.end(), ',', '.');
-    char* end = nullptr;
-    v = std::strtod(t.c_str(), &end);
-    return end && *end == '\0' && std::isfinite(v) && std::fabs(v) < 1e6;
-}
+// coordinates beyond a million units are refused: the picture works in screen pixels
+bool zahl(const std::string& s, double& v) { return quorix::argNumber(s, v) && std::fabs(v) < 1e6; }
 
 int cmdDreieck(Args a, std::ostream& out, std::ostream& err)
 {
@@ -67,5 +61,7 @@ int cmdDreieck(Args a, std::ostream& out, std::ostream& err)
 
 std::vector<quorix::HeadlessCommand> geometryCommands()
 {
-    return {{"dreieck", "Dreieck aus drei Eckpunkten: Seiten, Winkel und gewählte Objekte", cmdDreieck}};
+    return {{"dreieck", "Dreieck aus drei Eckpunkten: Seiten, Winkel und gewählte Objekte", cmdDreieck},
+            {"konstruktion", "Konstruktion aus einer Datei (.dyn) ausführen und alle Objekte mit Koordinaten ausgeben",
+             konstruktionsBefehl}};
 }

@@ -1,5 +1,5 @@
 #pragma once
-// Headless commands of the geometry subsystem: dreieck.
+// Headless commands of the geometry subsystem: dreieck, konstruktion.
 #include "kernel/headless.h"
 
 #include <vector>

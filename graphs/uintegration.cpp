@@ -217,7 +217,7 @@ Integrationsvorgabe TFintegra::vorgabe(bool& ok)
     v.f = termText(Ef_->text());
     v.g = termText(Eg_->text());
     if (v.g.empty())
-        v.g = "0";
+        v.g.push_back('0');  // no second function: the x axis
     v.F = termText(EF_->text());
     v.G = termText(EG_->text());
     v.p = zahl(Ep_, 1);

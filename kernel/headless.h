@@ -18,5 +18,9 @@ struct HeadlessCommand {
 // Small helpers for argument parsing shared by all command sets.
 bool takeOption(Args& args, const std::string& name, std::string& value);
 bool takeFlag(Args& args, const std::string& name);
+// A number argument: decimal point or comma, finite, nothing after it.
+bool argNumber(const std::string& text, double& value);
+// A whole number argument within lo..hi.
+bool argInt(const std::string& text, int& value, int lo, int hi);
 
 }  // namespace quorix

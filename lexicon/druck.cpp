@@ -1,4 +1,5 @@
 #include "lexicon/druck.h"
+#include "lexicon/markuptext.h"
 
 #include "lexicon/einstellungen.h"
 #include "lexicon/pagestore.h"
@@ -13,30 +14,9 @@ using platform::TColor;
 
 namespace {
 
-bool beginntMit(const std::string& s, const char* p)
-{
-    return s.rfind(p, 0) == 0;
-}
-
-std::string trim(const std::string& s)
-{
-    size_t i = 0, j = s.size();
-    while (i < j && static_cast<unsigned char>(s[i]) <= 32)
-        ++i;
-    while (j > i && static_cast<unsigned char>(s[j - 1]) <= 32)
-        --j;
-    return s.substr(i, j - i);
-}
-
-bool istFormatToken(char c)
-{
-    switch (c) {
-    case '(': case ')': case '*': case '+': case '-': case '<': case '=': case '>':
-        return true;
-    default:
-        return c >= '0' && c <= '9';
-    }
-}
+using markup::beginntMit;
+using markup::istFormatToken;
+using markup::trim;
 
 void linksSchneiden(std::string& s, const std::string& anfang)
 {

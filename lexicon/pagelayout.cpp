@@ -1,4 +1,5 @@
 #include "lexicon/pagelayout.h"
+#include "lexicon/markuptext.h"
 
 #include "lexicon/pagestore.h"
 
@@ -13,30 +14,9 @@ namespace {
 
 const std::string kRaquo = "\xBB";
 
-bool beginntMit(const std::string& s, const char* p)
-{
-    return s.rfind(p, 0) == 0;
-}
-
-std::string trim(const std::string& s)
-{
-    size_t i = 0, j = s.size();
-    while (i < j && static_cast<unsigned char>(s[i]) <= 32)
-        ++i;
-    while (j > i && static_cast<unsigned char>(s[j - 1]) <= 32)
-        --j;
-    return s.substr(i, j - i);
-}
-
-bool istFormatToken(char c)
-{
-    switch (c) {
-    case '(': case ')': case '*': case '+': case '-': case '<': case '=': case '>':
-        return true;
-    default:
-        return c >= '0' && c <= '9';
-    }
-}
+using markup::beginntMit;
+using markup::istFormatToken;
+using markup::trim;
 
 // Flips the case of the first letter, A-Z and a-z only.
 std::string ersterBuchstabeGekippt(const std::string& w)

@@ -49,7 +49,6 @@ bool parseArgs(const std::string& inside, std::vector<long>& out)
 }
 
 std::string dec(const mp_int& a) { return mp_decimal(a); }
-TVarInt toVar(const mp_int& a) { return TVarInt(mp_decimal(a)); }
 
 }  // namespace
 

@@ -1,13 +1,2 @@
-// Text metrics need a GUI application; offscreen, so no display is needed.
-#include <QApplication>
-
-namespace {
-int argc = 1;
-char name[] = "test_tools";
-char* argv[] = {name, nullptr};
-QApplication* app = [] {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    return new QApplication(argc, argv);
-}();
-}  // namespace
+// One offscreen QApplication for this test program.
+#include "tests/qt_umgebung.h"
