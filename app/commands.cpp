@@ -3,6 +3,7 @@
 #include "app/teilprogramm.h"
 #include "app/winfkt.h"
 #include "app/lint.h"
+#include "algebra/commands.h"
 #include "algebra/numer_commands.h"
 #include "astronomy/commands.h"
 #include "crypto/commands.h"
@@ -332,7 +333,7 @@ std::vector<quorix::HeadlessCommand> alleBefehle()
     std::vector<quorix::HeadlessCommand> alle = appCommands();
     for (auto* satz : {&kernel::kernelCommands, &quorix::termCommands, &platform::platformCommands, &crypto::cryptoCommands,
                        &::astronomyCommands, &::numbersCommands, &graphs::graphsCommands,
-                       &::factorCommands, &::gamesCommands, &::dynamicsCommands, &::chaosCommands, &::geometryCommands, &::polyCommands, &::numerCommands, &::stochasticsCommands}) {
+                       &::factorCommands, &::gamesCommands, &::dynamicsCommands, &::chaosCommands, &::geometryCommands, &::polyCommands, &::numerCommands, &::algebraCommands, &::stochasticsCommands}) {
         auto mehr = satz();
         alle.insert(alle.end(), mehr.begin(), mehr.end());
     }

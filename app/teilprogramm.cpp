@@ -1,6 +1,7 @@
 #include "app/teilprogramm.h"
 
 #include "algebra/numer_windows.h"
+#include "algebra/windows.h"
 #include "astronomy/windows.h"
 #include "crypto/windows.h"
 #include "dynamics/chaos_windows.h"
@@ -61,7 +62,7 @@ const std::vector<WerkzeugEintrag>& werkzeugtabelle()
         std::vector<WerkzeugEintrag> t = {
             {2, A::A, "TFInter", {}},       {3, A::A, "TFAnalysis", mitSeite(graphs::createTFAnalysis)},   {4, A::C, "TFGraph", graphs::createTFGraph},
             {5, A::A, "TFabbild", mitSeite(::createTFabbild)}, {6, A::A, "TFchaos", mitSeite(::createTFchaos)},      {7, A::B, "TFnumer", mitSeite(::createTFnumer)},
-            {8, A::A, "TFalgebra", {}},     {9, A::A, "TFkalend", mitSeite(::createTFkalend)},     {10, A::A, "Tf2048", {}},
+            {8, A::A, "TFalgebra", mitSeite(::createTFalgebra)},     {9, A::A, "TFkalend", mitSeite(::createTFkalend)},     {10, A::A, "Tf2048", {}},
             {11, A::A, "TFpoly", mitSeite(::createTFpoly)},       {12, A::A, "TFintegra", mitSeite(graphs::createTFintegra)},   {13, A::A, "TForm13", {}},
             {14, A::A, "TForm14", mitSeite(dynamics::createTForm14)},      {15, A::A, "TFphy", {}},       {16, A::A, "TForm16", {}},
             {17, A::A, "TForm17", mitSeite(::createTForm17)},      {18, A::A, "Ttranskoord", {}}, {19, A::B, "Tfphase", ::createTfphase},
