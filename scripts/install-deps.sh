@@ -2,7 +2,7 @@
 # Installs the Debian packages that building and testing Quorix needs; silent if all are there.
 # "install-deps.sh extra" also installs what the benchmark anchors and the fuzz run use.
 set -e
-PKGS="cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev libqt6svg6-dev zlib1g-dev libzip-dev
+PKGS="cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev zlib1g-dev libzip-dev
 libpng-dev libjpeg-dev libgif-dev libgtest-dev libgmock-dev libgmp-dev libmuparser-dev fonts-dejavu-core
 libgl1-mesa-dev"
 if [ "$1" = "extra" ]; then
