@@ -44,19 +44,7 @@ void faerbeLjapunow(const TLyapunovLambdaMap& m, Ljapunowfarben f, platform::TCo
 
 std::vector<std::string> ladeChaosText(const std::string& container)
 {
-    std::string pfad = container;
-    if (pfad.empty()) {
-        std::error_code ec;
-        const auto exe = std::filesystem::read_symlink("/proc/self/exe", ec);
-        pfad = ec ? "000/texte.dll" : (exe.parent_path() / "000" / "texte.dll").string();
-    }
-    std::vector<std::string> out;
-    try {
-        for (const std::string& z : platform::loadTextResource(pfad, "10", "CHAOS")) out.push_back(platform::cp1252ToUtf8(z));
-    } catch (...) {
-        // a missing list is an empty list
-    }
-    return out;
+    return platform::loadTextListUtf8(container.empty() ? platform::programContainer("texte.dll") : container, "CHAOS");
 }
 
 }  // namespace chaos

@@ -142,20 +142,8 @@ std::vector<std::string> loadPatternLines(const std::string& path)
 
 std::vector<std::string> loadPatternResource(const std::string& containerPath)
 {
-    std::vector<std::string> out;
-    std::string container = containerPath;
-    if (container.empty()) {
-        std::error_code ec;
-        const auto exe = std::filesystem::read_symlink("/proc/self/exe", ec);
-        container = ec ? "000/texte.dll" : (exe.parent_path() / "000" / "texte.dll").string();
-    }
-    try {
-        for (const std::string& line : platform::loadTextResource(container, "10", "game"))
-            out.push_back(platform::cp1252ToUtf8(line));
-    } catch (...) {
-        // a missing library is an empty list
-    }
-    return out;
+    return platform::loadTextListUtf8(containerPath.empty() ? platform::programContainer("texte.dll") : containerPath,
+                                      "game");
 }
 
 }  // namespace dynamics

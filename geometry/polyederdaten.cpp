@@ -12,24 +12,14 @@ namespace {
 const char* const kNamen[] = {"mpoly1", "mpoly2", "koerperz"};
 }
 
-std::string standardTextContainer()
-{
-    std::error_code ec;
-    const auto exe = std::filesystem::read_symlink("/proc/self/exe", ec);
-    if (ec) return "000/texte.dll";
-    return (exe.parent_path() / "000" / "texte.dll").string();
-}
+std::string standardTextContainer() { return platform::programContainer("texte.dll"); }
 
 std::vector<std::string> ladeKoerperDaten(const std::string& container)
 {
     std::vector<std::string> z;
     for (const char* name : kNamen) {
-        try {
-            for (const std::string& l : platform::loadTextResource(container, "10", name))
-                z.push_back(platform::cp1252ToUtf8(l));
-        } catch (...) {
-            // a missing list is an empty list
-        }
+        const auto teil = platform::loadTextListUtf8(container, name);
+        z.insert(z.end(), teil.begin(), teil.end());
     }
     return z;
 }

@@ -41,27 +41,14 @@ using kernel::SafeRound;
 
 namespace {
 
+// the program's texte.dll; tests point it at a container of their own
 std::string& textContainer()
 {
-    static std::string pfad = [] {
-        std::error_code ec;
-        const auto exe = std::filesystem::read_symlink("/proc/self/exe", ec);
-        return ec ? std::string("000/texte.dll") : (exe.parent_path() / "000" / "texte.dll").string();
-    }();
+    static std::string pfad = platform::programContainer("texte.dll");
     return pfad;
 }
 
-std::vector<std::string> ladeResource(const char* name)
-{
-    std::vector<std::string> z;
-    try {
-        for (const std::string& l : platform::loadTextResource(textContainer(), "10", name))
-            z.push_back(platform::cp1252ToUtf8(l));
-    } catch (...) {
-        // a missing list is an empty list
-    }
-    return z;
-}
+std::vector<std::string> ladeResource(const char* name) { return platform::loadTextListUtf8(textContainer(), name); }
 
 QString u(const std::string& s) { return QString::fromUtf8(s.c_str(), static_cast<int>(s.size())); }
 std::string s8(const QString& s) { return s.toUtf8().toStdString(); }

@@ -1,8 +1,11 @@
 #include "platform/container.h"
 
+#include "platform/codepage.h"
+
 #include <zip.h>
 
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 
 namespace platform {
@@ -87,6 +90,25 @@ StringList loadTextResource(const std::string& containerPath, const std::string&
                             const std::string& name)
 {
     return splitLines(zlibInflate(readResource(containerPath, type, name)));
+}
+
+std::string programContainer(const std::string& fileName)
+{
+    std::error_code ec;
+    const auto exe = std::filesystem::read_symlink("/proc/self/exe", ec);
+    return ec ? "000/" + fileName : (exe.parent_path() / "000" / fileName).string();
+}
+
+std::vector<std::string> loadTextListUtf8(const std::string& containerPath, const std::string& name)
+{
+    std::vector<std::string> out;
+    try {
+        for (const std::string& line : loadTextResource(containerPath, "10", name))
+            out.push_back(cp1252ToUtf8(line));
+    } catch (const ResourceError&) {
+        // a missing list is an empty list
+    }
+    return out;
 }
 
 void ContainerWriter::add(const std::string& type, const std::string& name, const std::string& bytes)

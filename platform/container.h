@@ -34,6 +34,12 @@ private:
 StringList loadTextResource(const std::string& containerPath, const std::string& type,
                             const std::string& name);
 
+// Path of a container in the "000" folder beside the running program (texte.dll, ...).
+std::string programContainer(const std::string& fileName);
+// The authored text list `name` (type "10") as UTF-8 lines; a missing container or list is an
+// empty list, since the tools then simply offer nothing to choose.
+std::vector<std::string> loadTextListUtf8(const std::string& containerPath, const std::string& name);
+
 // Writes a whole container at once (used by the packer and by tests).
 class ContainerWriter {
 public:
