@@ -1,5 +1,6 @@
 // Tfaktform window: the number field with its counts, the start/abort button, the result list.
 #include "numbers/factor/ufakto.h"
+#include "numbers/factor/listsync.h"
 #include "numbers/factor/factorwindows.h"
 #include "numbers/factor/mp_prime.h"
 #include "numbers/factor/ufakto_core.h"
@@ -33,20 +34,7 @@ public:
         return aborted;
     }
     void status(const std::string& text) override { w_->LStatus->setText(QString::fromStdString(text)); }
-    void linesChanged() override
-    {
-        // lines are only added or the last ones amended: sync from the first that differs
-        QListWidget* lb = w_->LB1;
-        int n = int(lines.size());
-        for (int i = std::max(0, std::min(lb->count(), n) - 2); i < n; ++i) {
-            QString t = QString::fromStdString(lines[size_t(i)]);
-            if (i < lb->count())
-                lb->item(i)->setText(t);
-            else
-                lb->addItem(t);
-        }
-        lb->scrollToBottom();
-    }
+    void linesChanged() override { numbers::syncLines(w_->LB1, lines); }
 
 private:
     Tfaktform* w_;

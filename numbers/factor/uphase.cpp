@@ -1,6 +1,7 @@
 // Tfphase window: number or formula, the limits, the two switches, the start/abort button and
 // the result list; long rests go to a modal Tfaktform.
 #include "numbers/factor/uphase.h"
+#include "numbers/factor/listsync.h"
 #include "numbers/factor/factorwindows.h"
 #include "numbers/factor/ufakto.h"
 #include "numbers/mp_types.h"
@@ -41,19 +42,7 @@ public:
         w_->LGruppen->setText(QStringLiteral("Gruppen: %1").arg(groups));
     }
     void status(const std::string& text) override { w_->LStatus->setText(QString::fromStdString(text)); }
-    void linesChanged() override
-    {
-        QListWidget* lb = w_->LB1;
-        int n = int(lines.size());
-        for (int i = std::max(0, std::min(lb->count(), n) - 2); i < n; ++i) {
-            QString t = QString::fromStdString(lines[size_t(i)]);
-            if (i < lb->count())
-                lb->item(i)->setText(t);
-            else
-                lb->addItem(t);
-        }
-        lb->scrollToBottom();
-    }
+    void linesChanged() override { numbers::syncLines(w_->LB1, lines); }
     std::string faktform(const std::string& digits) override
     {
         // the sieve window opens modal with the number and hands its result text back
